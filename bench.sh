@@ -1,0 +1,23 @@
+#!/usr/bin/env bash
+# Builds the benchmarks and runs each of them. A line of the output is name<TAB>figure<TAB>unit<TAB>bar.
+# Arguments go to every benchmark program.
+set -euo pipefail
+cd "$(dirname "$(readlink -f "$0")")"
+exec </dev/null
+
+./setup.sh programa bancada >&2
+cmake --preset bench -DFENVALE_TESTS=OFF >&2
+cmake --build --preset bench >&2
+
+# A benchmark is a program of the folder bench/ whose name begins with "medida-".
+ran=
+for program in build/bench/bench/medida-*; do
+  if [ -f "$program" ] && [ -x "$program" ]; then
+    "$program" "$@"
+    ran=1
+  fi
+done
+if [ -z "$ran" ]; then
+  echo "bench.sh: no benchmark was built" >&2
+  exit 1
+fi
