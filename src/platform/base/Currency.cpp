@@ -91,7 +91,8 @@ Currency Currency::fromBrazilian(std::string_view text) {
 
 std::string Currency::toDecimal() const {
   const bool negative = units_ < 0;
-  const std::uint64_t magnitude = negative ? 0 - static_cast<std::uint64_t>(units_) : static_cast<std::uint64_t>(units_);
+  const std::uint64_t magnitude =
+      negative ? 0 - static_cast<std::uint64_t>(units_) : static_cast<std::uint64_t>(units_);
   std::string text = std::to_string(magnitude / unit);
   if (const std::uint64_t rest = magnitude % unit; rest != 0) {
     std::string decimals = std::to_string(unit + static_cast<std::int64_t>(rest)).substr(1);

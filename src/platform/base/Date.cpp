@@ -20,12 +20,18 @@ long long part(DateTime moment, char letter) {
   const Date day = std::chrono::floor<std::chrono::days>(moment);
   const long long seconds = (moment - day).count();
   switch (letter) {
-    case 'd': return dayOf(day);
-    case 'm': return monthOf(day);
-    case 'y': return yearOf(day);
-    case 'h': return seconds / 3600;
-    case 'n': return seconds / 60 % 60;
-    default: return seconds % 60;
+    case 'd':
+      return dayOf(day);
+    case 'm':
+      return monthOf(day);
+    case 'y':
+      return yearOf(day);
+    case 'h':
+      return seconds / 3600;
+    case 'n':
+      return seconds / 60 % 60;
+    default:
+      return seconds % 60;
   }
 }
 

@@ -32,16 +32,16 @@ inline constexpr std::int32_t invalidUseOfNull = 94;
 inline constexpr std::int32_t invalidPropertyValue = 380;
 inline constexpr std::int32_t listIndexOutOfBounds = 35600;
 
-inline constexpr std::int32_t refused = -2147467259;            ///< 0x80004005 duplicate, row in use, missing reference
-inline constexpr std::int32_t valueMismatch = -2147217913;      ///< 0x80040E07 value cannot be converted
-inline constexpr std::int32_t unknownColumn = -2147217904;      ///< 0x80040E10
-inline constexpr std::int32_t syntax = -2147217900;             ///< 0x80040E14 syntax, object exists, unknown function
-inline constexpr std::int32_t storeExists = -2147217897;        ///< 0x80040E17
-inline constexpr std::int32_t columnExists = -2147217887;       ///< 0x80040E21
-inline constexpr std::int32_t unknownTable = -2147217865;       ///< 0x80040E37
-inline constexpr std::int32_t valueOutOfRange = -2147217833;    ///< 0x80040E57 number out of range, text too long
-inline constexpr std::int32_t noTransaction = -2147168242;      ///< 0x8004D00E
-inline constexpr std::int32_t tooManyTransactions = -2147168237;///< 0x8004D013
+inline constexpr std::int32_t refused = -2147467259;          ///< 0x80004005 duplicate, row in use, missing reference
+inline constexpr std::int32_t valueMismatch = -2147217913;    ///< 0x80040E07 value cannot be converted
+inline constexpr std::int32_t unknownColumn = -2147217904;    ///< 0x80040E10
+inline constexpr std::int32_t syntax = -2147217900;           ///< 0x80040E14 syntax, object exists, unknown function
+inline constexpr std::int32_t storeExists = -2147217897;      ///< 0x80040E17
+inline constexpr std::int32_t columnExists = -2147217887;     ///< 0x80040E21
+inline constexpr std::int32_t unknownTable = -2147217865;     ///< 0x80040E37
+inline constexpr std::int32_t valueOutOfRange = -2147217833;  ///< 0x80040E57 number out of range, text too long
+inline constexpr std::int32_t noTransaction = -2147168242;    ///< 0x8004D00E
+inline constexpr std::int32_t tooManyTransactions = -2147168237;  ///< 0x8004D013
 
 inline constexpr std::int32_t objectClosed = 3704;
 inline constexpr std::int32_t objectOpen = 3705;

@@ -8,10 +8,10 @@ namespace {
 constexpr char32_t replacement = 0xFFFD;
 
 // The codes 128 to 159 of Windows-1252; the unused ones keep their number.
-constexpr std::array<char32_t, 32> upperControls = {
-    0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021, 0x2C6, 0x2030, 0x160,
-    0x2039, 0x152,  0x8D,   0x17D,  0x8F,   0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022,
-    0x2013, 0x2014, 0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E, 0x178};
+constexpr std::array<char32_t, 32> upperControls = {0x20AC, 0x81,   0x201A, 0x192,  0x201E, 0x2026, 0x2020, 0x2021,
+                                                    0x2C6,  0x2030, 0x160,  0x2039, 0x152,  0x8D,   0x17D,  0x8F,
+                                                    0x90,   0x2018, 0x2019, 0x201C, 0x201D, 0x2022, 0x2013, 0x2014,
+                                                    0x2DC,  0x2122, 0x161,  0x203A, 0x153,  0x9D,   0x17E,  0x178};
 
 std::size_t offsetOf(std::string_view text, std::size_t characters) {
   std::size_t place = 0;
@@ -87,7 +87,9 @@ std::size_t length(std::string_view text) {
   return count;
 }
 
-std::string left(std::string_view text, std::size_t count) { return std::string(text.substr(0, offsetOf(text, count))); }
+std::string left(std::string_view text, std::size_t count) {
+  return std::string(text.substr(0, offsetOf(text, count)));
+}
 
 std::string right(std::string_view text, std::size_t count) {
   const std::size_t all = length(text);

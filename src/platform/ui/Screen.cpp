@@ -1,0 +1,156 @@
+#include "platform/ui/Screen.h"
+
+#include <algorithm>
+
+#include "platform/base/Error.h"
+#include "platform/ui/Control.h"
+#include "platform/ui/UiHost.h"
+
+namespace fenvale {
+namespace {
+
+void collect(const LayoutNode& node, std::vector<Control*>& order) {
+  if (node.control != nullptr && node.control->takesFocus()) order.push_back(node.control);
+  for (Control* control : node.beside)
+    if (control->takesFocus()) order.push_back(control);
+  for (const LayoutNode& child : node.children) collect(child, order);
+}
+
+}  // namespace
+
+Screen::Screen(UiHost& host, std::string name, ScreenStyle style)
+    : host_(host), name_(std::move(name)), style_(style) {}
+
+Screen::~Screen() = default;
+
+void Screen::setCaption(std::string caption) {
+  caption_ = std::move(caption);
+  changed();
+}
+
+void Screen::setTitle(std::string title) {
+  title_ = std::move(title);
+  changed();
+}
+
+void Screen::setNote(std::string note) {
+  note_ = std::move(note);
+  changed();
+}
+
+void Screen::setEnabled(bool enabled) {
+  enabled_ = enabled;
+  changed();
+}
+
+void Screen::setBackground(std::string picturePath) {
+  background_ = std::move(picturePath);
+  changed();
+}
+
+void Screen::setLayout(std::vector<LayoutNode> nodes) {
+  layout_.children = std::move(nodes);
+  changed();
+}
+
+void Screen::setPreferredSize(int width, int height) {
+  preferredWidth_ = width;
+  preferredHeight_ = height;
+}
+
+Control* Screen::control(std::string_view name) const {
+  for (Control* candidate : controls_)
+    if (candidate->name() == name) return candidate;
+  return nullptr;
+}
+
+std::vector<Control*> Screen::tabOrder() const {
+  std::vector<Control*> order;
+  collect(layout_, order);
+  std::erase_if(order, [](const Control* control) { return !control->enabled() || !control->visible(); });
+  return order;
+}
+
+void Screen::ensureLoaded() {
+  if (state_ != State::created) return;
+  state_ = State::loaded;
+  onLoad();
+}
+
+bool Screen::unload() {
+  if (state_ != State::loaded || !onUnload()) return false;
+  // onUnload may itself have unloaded the screen by another road.
+  if (state_ != State::loaded) return true;
+  state_ = State::unloaded;
+  focused_ = nullptr;
+  host_.close(*this);
+  return true;
+}
+
+void Screen::setFocus(Control& control) {
+  if (!control.enabled() || !control.visible()) return;
+  moveFocus(&control);
+  host_.focusChanged(control);
+}
+
+void Screen::moveFocus(Control* control) {
+  if (focused_ == control) return;
+  Control* const previous = focused_;
+  focused_ = control;
+  if (previous != nullptr && previous->onLostFocus) guarded(previous->onLostFocus);
+  // Leaving may have sent the focus elsewhere.
+  if (focused_ == control && control != nullptr && control->onGotFocus) guarded(control->onGotFocus);
+}
+
+void Screen::focusNext() {
+  const auto order = tabOrder();
+  if (order.empty()) return;
+  const auto here = std::find(order.begin(), order.end(), focused_);
+  setFocus(here == order.end() || here + 1 == order.end() ? *order.front() : **(here + 1));
+}
+
+void Screen::focusPrevious() {
+  const auto order = tabOrder();
+  if (order.empty()) return;
+  const auto here = std::find(order.begin(), order.end(), focused_);
+  setFocus(here == order.end() || here == order.begin() ? *order.back() : **(here - 1));
+}
+
+void Screen::activate() {
+  if (focused_ != nullptr) {
+    host_.focusChanged(*focused_);
+  } else {
+    focusNext();
+  }
+}
+
+bool Screen::userKey(Key key) {
+  if (!enabled_ || state_ != State::loaded) return false;
+  if (isFunctionKey(key) && focused_ != nullptr && focused_->onLostFocus) guarded(focused_->onLostFocus);
+  bool dealtWith = false;
+  guarded([&] { dealtWith = onKeyDown(key); });
+  if (!dealtWith && focused_ != nullptr && focused_->onKeyDown && focused_->acceptsInput())
+    guarded([&] { dealtWith = focused_->onKeyDown(key); });
+  return dealtWith;
+}
+
+void Screen::userClose() {
+  guarded([this] { unload(); });
+}
+
+void Screen::guarded(const std::function<void()>& handler) {
+  try {
+    handler();
+  } catch (const Error& failure) {
+    host_.messageBox({BoxStyle::critical, BoxButtons::ok, "Norvane Sistemas", failure.description});
+  }
+}
+
+void Screen::remove(Control& control) {
+  std::erase(controls_, &control);
+  if (focused_ == &control) focused_ = nullptr;
+}
+
+void Screen::changed() { host_.screenChanged(*this); }
+
+}  // namespace fenvale
