@@ -1,0 +1,32 @@
+#pragma once
+// The one door to XML files: loads a document and, when raw accented characters keep it from being parsed, offers to
+// repair the file in place.
+
+#include <string>
+#include <string_view>
+
+#include "platform/xml/XmlDocument.h"
+
+namespace fenvale {
+
+class Contexto;
+
+/// One object per user: it remembers that a repair was offered, and a second failure is fatal.
+class XML {
+ public:
+  explicit XML(Contexto& contexto);
+  static const char* sGetName() { return "XML"; }
+
+  XmlDocument docPrepararArquivoXML(const std::string& sCaminho);
+  /// The text of the first child of the last element of that name; empty when there is none.
+  std::string sGetTag(const std::string& sCaminho, const std::string& sTag);
+  void vValidarCaracteresXML(const std::string& sCaminho);
+  /// "&" and the characters 128 to 255 of Windows-1252 as decimal references. Takes and gives UTF-8.
+  static std::string sSubstituirCaracteres(std::string_view sTexto);
+
+ private:
+  Contexto& contexto_;
+  bool bTentativa = false;
+};
+
+}  // namespace fenvale
