@@ -1,0 +1,48 @@
+#pragma once
+// The interfaces by which screens and services of any folder reach the small screens that help the others: the waiting
+// screen, the file finder, the picture viewer and the city search.
+
+#include <string>
+
+namespace fenvale {
+
+class Cidade;
+
+/// The waiting screen while the cities are being seeded ("frmMensagem").
+class TelaMensagem {
+ public:
+  virtual ~TelaMensagem() = default;
+  /// Shows the text, fills the table Cidades of the chosen store and returns when the screen is gone.
+  virtual void vCarregar(const std::string& sMensagem, bool bEmpresa) = 0;
+  /// The seeding is over: the screen goes, but not before the least time that it is told to stay.
+  virtual void vFechar() = 0;
+};
+
+/// The file finder ("frmLocalizarArquivo").
+class BuscaArquivo {
+ public:
+  virtual ~BuscaArquivo() = default;
+  /// `sPadrao` is one or more wild cards joined by ";". Returns when the screen is gone.
+  virtual void vCarregar(const std::string& sPadrao) = 0;
+  /// The whole path of the file that was picked; empty when none was.
+  virtual const std::string& sGetArquivo() const = 0;
+};
+
+/// Shows one picture ("frmExibirImagem").
+class TelaImagem {
+ public:
+  virtual ~TelaImagem() = default;
+  virtual void vCarregar(const std::string& sCaminho) = 0;
+};
+
+/// The city search ("frmLocalizarCidades").
+class BuscaCidade {
+ public:
+  virtual ~BuscaCidade() = default;
+  /// In the company's store or the program's. Returns when the screen is gone.
+  virtual void vCarregar(bool bEmpresa) = 0;
+  /// What was picked; its key is -1 when nothing was.
+  virtual const Cidade& cidade() const = 0;
+};
+
+}  // namespace fenvale
