@@ -1,12 +1,14 @@
 #pragma once
 // The interfaces by which screens and services of any folder reach the small screens that help the others: the waiting
-// screen, the file finder, the picture viewer and the city search.
+// screen, the file finder, the picture viewer, the city search and the options of list printing.
 
+#include <cstdint>
 #include <string>
 
 namespace fenvale {
 
 class Cidade;
+class ListView;
 
 /// The waiting screen while the cities are being seeded ("frmMensagem").
 class TelaMensagem {
@@ -43,6 +45,14 @@ class BuscaCidade {
   virtual void vCarregar(bool bEmpresa) = 0;
   /// What was picked; its key is -1 when nothing was.
   virtual const Cidade& cidade() const = 0;
+};
+
+/// The options of list printing ("frmOpcoesRelList").
+class OpcoesRelatorioLista {
+ public:
+  virtual ~OpcoesRelatorioLista() = default;
+  /// What the list holds, under that title, in lines of 80 or 130 characters. Returns when the screen is gone.
+  virtual void vCarregar(const std::string& sTitulo, std::int16_t iColunas, ListView& lst) = 0;
 };
 
 }  // namespace fenvale

@@ -1,0 +1,77 @@
+#include "registers/services/CampoBusca.h"
+
+#include "platform/ui/Boxes.h"
+#include "platform/ui/Screen.h"
+#include "platform/ui/UiHost.h"
+#include "shell/services/Contexto.h"
+#include "shell/services/Funcoes.h"
+#include "shell/services/TelaComLista.h"
+#include "shell/services/Telas.h"
+
+namespace fenvale {
+
+CampoBusca::CampoBusca(Screen& tela, Contexto& contexto, std::vector<Control*> caixas, Descricao descricao)
+    : cmdBuscar(tela, descricao.sBotao, "", "lupa"),
+      tela_(tela),
+      contexto_(contexto),
+      caixas_(std::move(caixas)),
+      descricao_(std::move(descricao)) {
+  cmdBuscar.setLabel(descricao_.sRotulo);
+  cmdBuscar.setToolTip(descricao_.sRotulo);
+  cmdBuscar.onClick = [this] {
+    vBuscar();
+    if (descricao_.proximo != nullptr) descricao_.proximo->setFocus();
+  };
+  for (Control* caixa : caixas_) caixa->onKeyDown = [this, caixa](Key tecla) { return bTecla(*caixa, tecla); };
+  if (caixas_.front()->kind() == ControlKind::lookupBox) caixas_.front()->setToolTip("Espaço localiza · Delete limpa");
+}
+
+void CampoBusca::vSetCadastro(std::string sTela, Button& botao) {
+  sCadastro_ = std::move(sTela);
+  cmdCadastro_ = &botao;
+  botao.setEnabled(contexto_.telas().bExiste(sCadastro_));
+  botao.onClick = [this] { vCadastrar(*caixas_.front()); };
+  caixas_.front()->setToolTip("Espaço localiza · Insert cadastra · Delete limpa");
+}
+
+void CampoBusca::vSet(std::int32_t lChave, const std::string& sTexto) {
+  lCodigo = lChave;
+  static_cast<TextControl*>(caixas_.front())->setText(sTexto);
+}
+
+void CampoBusca::vLimpar() {
+  lCodigo = -1;
+  for (Control* caixa : caixas_) caixa->reset({});
+}
+
+void CampoBusca::vBuscar() { contexto_.telas().obter<TelaBusca>(descricao_.sBusca).vLocalizar(tela_); }
+
+void CampoBusca::vCadastrar(Control& caixa) {
+  Funcoes(contexto_).vMostrarFormModal(sCadastro_);
+  caixa.setFocus();
+}
+
+bool CampoBusca::bTecla(Control& caixa, Key tecla) {
+  switch (tecla) {
+    case Key::space:
+      cmdBuscar.userClick();
+      return true;
+    case Key::insert:
+      if (cmdCadastro_ != nullptr && cmdCadastro_->enabled()) vCadastrar(caixa);
+      return true;
+    case Key::del:
+      vLimpar();
+      caixa.setFocus();
+      return true;
+    default:
+      return false;
+  }
+}
+
+LayoutNode CampoBusca::campoPrincipal(const std::string& sRotulo, int largura) {
+  std::vector<Control*> botoesAoLado{&cmdBuscar};
+  if (cmdCadastro_ != nullptr) botoesAoLado.push_back(cmdCadastro_);
+  return campo(sRotulo, *caixas_.front(), largura, botoesAoLado);
+}
+
+}  // namespace fenvale
