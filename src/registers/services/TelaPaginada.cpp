@@ -5,6 +5,7 @@
 #include "platform/base/Format.h"
 #include "platform/sql/Store.h"
 #include "shell/services/Contexto.h"
+#include "shell/services/Teclas.h"
 #include "shell/services/Telas.h"
 #include "shell/services/TelasDeApoio.h"
 #include "store/services/ConfiguracoesPrograma.h"
@@ -15,11 +16,17 @@ namespace {
 
 constexpr const char* sTelaEmissao = "frmOpcoesRelList";
 
+std::string sCelula(const Recordset& rs, const ColunaLista& coluna) {
+  const Value valor = rs.field(coluna.sCampo);
+  if (coluna.sMascara.empty() || valor.isNull()) return valor.toText();
+  return formatNumber(std::int64_t{valor.toLong()}, coluna.sMascara);
+}
+
 }  // namespace
 
-TelaPaginada::TelaPaginada(Contexto& contexto, std::string sNome)
+TelaPaginada::TelaPaginada(Contexto& contexto, std::string sNome, ListView::CheckBoxes marcas)
     : Tela(contexto, std::move(sNome)),
-      lstLista(*this, "lstLista", {}),
+      lstLista(*this, "lstLista", {}, marcas),
       scrPaginas(*this, "scrPaginas"),
       pbBarrra(*this, "pbBarrra") {
   lstLista.onMouseDown = [this](MouseButton botao) { botaoDoMouse_ = botao; };
@@ -51,8 +58,8 @@ void TelaPaginada::vExecutar(const std::string& sSQL) const {
 
 bool TelaPaginada::bInserirLista(Recordset& rs) try {
   const std::int32_t lCodigo = rs.field("lCodigo").toLong();
-  const auto item = lstLista.addItem(sChaveLista(lCodigo), rs.field(colunas_.front().sCampo).toText());
-  for (std::size_t i = 1; i < colunas_.size(); ++i) item->setSubItem(i, rs.field(colunas_[i].sCampo).toText());
+  const auto item = lstLista.addItem(sChaveLista(lCodigo), sCelula(rs, colunas_.front()));
+  for (std::size_t i = 1; i < colunas_.size(); ++i) item->setSubItem(i, sCelula(rs, colunas_[i]));
   return true;
 } catch (const Error& falha) {
   if (falha.number != errors::noCurrentRecord) vRegistrarFalha(falha, sNomeInserir(), 2);
@@ -96,16 +103,7 @@ bool TelaPaginada::onUnload() {
   return true;
 }
 
-bool TelaPaginada::onKeyDown(Key tecla) {
-  for (Control* controle : controls()) {
-    if (controle->kind() != ControlKind::button) continue;
-    auto& botao = static_cast<Button&>(*controle);
-    if (botao.key() == Key::none || botao.key() != tecla) continue;
-    botao.userClick();
-    return true;
-  }
-  return bTestarTecla(tecla);
-}
+bool TelaPaginada::onKeyDown(Key tecla) { return bPressionarBotaoDaTecla(*this, tecla) || bTestarTecla(tecla); }
 
 bool TelaPaginada::bPodeEmitir() const { return contexto().telas().bExiste(sTelaEmissao); }
 

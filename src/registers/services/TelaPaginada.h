@@ -23,8 +23,9 @@ struct ColunaLista {
   std::string sCabecalho;
   float fLargura = 1440;  ///< twips, as designed; 0 hides it
   Align alinhamento = Align::left;
-  std::string sCampo;  ///< the query's column
-  Ligacao destino{};   ///< what a click on a row copies the cell into
+  std::string sCampo;      ///< the query's column
+  Ligacao destino{};       ///< what a click on a row copies the cell into
+  std::string sMascara{};  ///< for whole numbers ("00000"); empty shows the field's text
 };
 
 class TelaPaginada : public Tela, public TelaListaPaginada {
@@ -41,7 +42,7 @@ class TelaPaginada : public Tela, public TelaListaPaginada {
   bool bInserirLista(Recordset& rs) override;
 
  protected:
-  TelaPaginada(Contexto& contexto, std::string sNome);
+  TelaPaginada(Contexto& contexto, std::string sNome, ListView::CheckBoxes marcas = ListView::CheckBoxes::none);
 
   void vSetColunas(std::vector<ColunaLista> colunas);
   const std::vector<ColunaLista>& colunas() const { return colunas_; }

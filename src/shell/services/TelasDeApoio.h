@@ -55,4 +55,14 @@ class OpcoesRelatorioLista {
   virtual void vCarregar(const std::string& sTitulo, std::int16_t iColunas, ListView& lst) = 0;
 };
 
+/// The accounts overview ("frmMostrarContas"), as the start-up and the main window open it.
+class TelaQuadroGeral {
+ public:
+  virtual ~TelaQuadroGeral() = default;
+  /// Whether the firm's settings ask for the overview at the start.
+  virtual bool bGetMostrarTodas() = 0;
+  /// With true all four lists are on offer whatever the settings say.
+  virtual void vSetMotrarTodas(bool bTodas) = 0;
+};
+
 }  // namespace fenvale
