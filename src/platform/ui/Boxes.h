@@ -105,6 +105,8 @@ inline constexpr const char* cpf = "000.000.000-00";
 inline constexpr const char* cnpj = "AA.AAA.AAA/AAAA-00";
 inline constexpr const char* cep = "00000-000";
 inline constexpr const char* telefone = "(00) 0000-00009";
+/// Each state has a form of its own, and some firms have the word ISENTO.
+inline constexpr const char* ie = "AAAAAAAAAAAAAA";
 }  // namespace masks
 
 /// `typed` put under `mask`: the characters that fit, with the mask's own between them; what does not fit is dropped.

@@ -26,9 +26,11 @@ CampoBusca::CampoBusca(Screen& tela, Contexto& contexto, std::vector<Control*> c
   if (caixas_.front()->kind() == ControlKind::lookupBox) caixas_.front()->setToolTip("Espaço localiza · Delete limpa");
 }
 
-void CampoBusca::vSetCadastro(std::string sTela, Button& botao) {
+void CampoBusca::vSetCadastro(std::string sTela, const std::string& sRotulo, Button& botao) {
   sCadastro_ = std::move(sTela);
   cmdCadastro_ = &botao;
+  botao.setLabel(sRotulo);
+  botao.setToolTip(sRotulo);
   botao.setEnabled(contexto_.telas().bExiste(sCadastro_));
   botao.onClick = [this] { vCadastrar(*caixas_.front()); };
   caixas_.front()->setToolTip("Espaço localiza · Insert cadastra · Delete limpa");

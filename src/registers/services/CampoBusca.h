@@ -5,7 +5,7 @@
 //   LookupBox txtCategoria{*this, "txtCategoria"};
 //   Button cmdNovaCategoria{*this, "cmdNovaCategoria", "", "mais"};
 //   CampoBusca categoria{*this, contexto(), {&txtCategoria}, {"frmLocalizarCategoriasRapido", &txtNome}};
-//   ... categoria.vSetCadastro("frmCadastroCategorias", cmdNovaCategoria);
+//   ... categoria.vSetCadastro("frmCadastroCategorias", "Cadastrar categoria", cmdNovaCategoria);
 
 #include <cstdint>
 #include <string>
@@ -38,7 +38,7 @@ class CampoBusca {
 
   /// The button that opens the register of the table, and the key Insert with it. Disabled when there is no such
   /// screen.
-  void vSetCadastro(std::string sTela, Button& botao);
+  void vSetCadastro(std::string sTela, const std::string& sRotulo, Button& botao);
   /// Key and text of a picked row, the text into the main box.
   void vSet(std::int32_t lChave, const std::string& sTexto);
   /// Key to -1, boxes empty.

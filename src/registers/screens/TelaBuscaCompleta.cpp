@@ -1,0 +1,95 @@
+#include "registers/screens/TelaBuscaCompleta.h"
+
+#include "access/services/Permissoes.h"
+#include "platform/base/Text.h"
+#include "shell/services/Contexto.h"
+#include "shell/services/Teclas.h"
+#include "shell/services/Telas.h"
+#include "shell/services/Validacoes.h"
+
+namespace fenvale {
+
+std::string sPrefixo(const std::string& sCampo, const TextControl& caixa) {
+  return "MID(" + sCampo + ", 1, " + std::to_string(length(caixa.text())) + ") = '" +
+         Validacoes::sGetStringSQL(caixa.text()) + "' ";
+}
+
+Criterio prefixo(std::string sCampo, const TextControl& caixa) {
+  return
+      [sCampo = std::move(sCampo), &caixa] { return caixa.empty() ? std::string() : "AND " + sPrefixo(sCampo, caixa); };
+}
+
+Criterio igual(std::string sCampo, const TextControl& caixa) {
+  return [sCampo = std::move(sCampo), &caixa] {
+    return caixa.empty() ? std::string() : "AND " + sCampo + " = " + caixa.text() + " ";
+  };
+}
+
+Criterio acimaDeZero(std::string sCampo, const NumberBox& caixa) {
+  return [sCampo = std::move(sCampo), &caixa] {
+    return caixa.value() > 0 ? "AND " + sCampo + " = " + std::to_string(caixa.value()) + " " : std::string();
+  };
+}
+
+Criterio chave(std::string sCampo, std::function<std::int32_t()> lChave) {
+  return [sCampo = std::move(sCampo), lChave = std::move(lChave)] {
+    return lChave() == -1 ? std::string() : "AND " + sCampo + " = " + std::to_string(lChave()) + " ";
+  };
+}
+
+Criterio periodo(std::string sCampo, const CheckBox& chk, const DatePicker& dtInicial, const DatePicker& dtFinal) {
+  return [sCampo = std::move(sCampo), &chk, &dtInicial, &dtFinal] {
+    return chk.checked() ? "AND " + sCampo + " BETWEEN #" + Validacoes::sGetDataSQL(dtInicial.value()) + "# AND #" +
+                               Validacoes::sGetDataSQL(dtFinal.value()) + "# "
+                         : std::string();
+  };
+}
+
+TelaBuscaCompleta::TelaBuscaCompleta(Contexto& contexto, std::string sNome, std::string sLegenda)
+    : Tela(contexto, std::move(sNome)) {
+  setCaption(sLegenda);
+  setTitle(std::move(sLegenda));
+  cmdLocalizar.setPrimary();
+  cmdLocalizar.onClick = [this] { cmdLocalizar_Click(); };
+  cmdFechar.onClick = [this] { unload(); };
+}
+
+void TelaBuscaCompleta::vSetCriterios(Criterio inicio, std::vector<Criterio> outros) {
+  inicio_ = std::move(inicio);
+  criterios_ = std::move(outros);
+}
+
+void TelaBuscaCompleta::vMontarTela(std::vector<LayoutNode> formulario) {
+  std::vector<LayoutNode> nos = std::move(formulario);
+  nos.push_back(botoes({&cmdLocalizar}, {&cmdFechar}));
+  setLayout(std::move(nos));
+}
+
+std::string TelaBuscaCompleta::sClausula() const {
+  std::string sTexto = "WHERE " + inicio_();
+  for (const Criterio& criterio : criterios_) sTexto += criterio();
+  return sTexto;
+}
+
+void TelaBuscaCompleta::vLocalizar(Screen& chamador) {
+  chamador_ = &chamador;
+  ensureLoaded();
+  cmdLocalizar_Click();
+  vMostrarFormModal(*this);
+}
+
+void TelaBuscaCompleta::cmdLocalizar_Click() try {
+  if (!contexto().permissoes().bGetPesquisar()) return;
+  cmdLocalizar.setEnabled(false);
+  auto* lista = dynamic_cast<TelaComLista*>(chamador_);
+  if (lista == nullptr) throw Error(Telas::operacaoInexistente, chamador_->sGetName() + " não tem lista.");
+  lista->vMontarLista(0, sClausula());
+  cmdLocalizar.setEnabled(true);
+} catch (const Error& falha) {
+  cmdLocalizar.setEnabled(true);
+  vRegistrarFalha(falha, "cmdLocalizar_Click", 2);
+}
+
+bool TelaBuscaCompleta::onKeyDown(Key tecla) { return bPressionarBotaoDaTecla(*this, tecla) || bTestarTecla(tecla); }
+
+}  // namespace fenvale

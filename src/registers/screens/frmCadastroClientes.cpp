@@ -1,0 +1,189 @@
+#include "registers/screens/frmCadastroClientes.h"
+
+#include "shell/services/Validacoes.h"
+#include "store/services/Sistema.h"
+
+namespace fenvale {
+namespace {
+
+constexpr const char* sSelecao =
+    "SELECT Clientes.lCodigo, Clientes.lCodigoInf, Clientes.sNome, FORMAT(fLimiteCredito, '#,##0.00') AS "
+    "LimiteCredito, sEndereco, sBairro, sCEP, sTelefone, sFax, sContato, sRG, sCPF, sIE, sCNPJ, sPai, sMae, sEmail, "
+    "FORMAT(dtNascimento, 'dd/mm/yyyy') AS Nascimento, sHomePage, txtObs, sEnderecoEntrega, sBairroEntrega, "
+    "sCEPEntrega, sEnderecoCobranca, sBairroCobranca, sCEPCobranca, lCategoria, (Categorias.btCodigoInf) AS Categoria, "
+    "lCidade, (SELECT Cidades.sNome FROM Cidades WHERE lCidade = Cidades.lCodigo) AS Cidade, (SELECT Cidades.sUF FROM "
+    "Cidades WHERE lCidade = Cidades.lCodigo) AS UF, lVendedor, (Vendedores.sNome) AS Vendedor, lCidadeEntrega, "
+    "(SELECT Cidades.sNome FROM Cidades WHERE lCidadeEntrega = Cidades.lCodigo) AS CidEntrega, (SELECT Cidades.sUF "
+    "FROM "
+    "Cidades WHERE lCidadeEntrega = Cidades.lCodigo) AS UFEntrega, lCidadeCobranca, (SELECT Cidades.sNome FROM Cidades "
+    "WHERE lCidadeCobranca = Cidades.lCodigo) AS CidCobranca, (SELECT Cidades.sUF FROM Cidades WHERE lCidadeCobranca = "
+    "Cidades.lCodigo) AS UFCobranca FROM (Clientes INNER JOIN Categorias ON Clientes.lCategoria = Categorias.lCodigo) "
+    "INNER JOIN Vendedores ON Clientes.lVendedor = Vendedores.lCodigo ";
+
+NomesCampoCidade nomesCidade(const std::string& sSufixo, const std::string& sBotao) {
+  return {"txtCidade" + sSufixo, "txtUF" + sSufixo, sBotao};
+}
+
+}  // namespace
+
+frmCadastroClientes::frmCadastroClientes(Contexto& contexto)
+    : TelaCadastro(contexto, "frmCadastroClientes"),
+      categoria(*this, contexto, {&txtCategoria},
+                {"frmLocalizarCategoriasRapido", &txtNome, "cmdBuscarCategoria", "Localizar categoria"}),
+      vendedor(*this, contexto, {&txtVendedor},
+               {"frmLocalizarVendedoresRapido", &txtRG, "cmdBuscarVendedor", "Localizar vendedor"}),
+      cidade(*this, contexto, CampoCidade::Modo::busca, true, nomesCidade("", "cmdBuscarCidade")),
+      cidadeEntrega(*this, contexto, CampoCidade::Modo::busca, true, nomesCidade("Entrega", "cmdBuscaCidadeEntrega")),
+      cidadeCobranca(*this, contexto, CampoCidade::Modo::busca, true,
+                     nomesCidade("Cobranca", "cmdBuscaCidadeCobranca")) {
+  categoria.vSetCadastro("frmCadastroCategorias", "Cadastrar categoria", cmdNovaCategoria);
+  vendedor.vSetCadastro("frmCadastroVendedores", "Cadastrar vendedor", cmdNovoVendedor);
+  cidade.aposBusca = [this] { txtCEP.setFocus(); };
+  cidadeEntrega.aposBusca = [this] { txtEnderecoCobranca.setFocus(); };
+
+  const auto chave = [](const CampoCidade& local) {
+    return std::function<std::int32_t()>([&local] { return local.lGetCodigo(); });
+  };
+  vDescrever({
+      .sLegenda = "Clientes",
+      .sTitulo = "Cadastro de clientes",
+      .sTabela = "Clientes",
+      .codigo = &txtCodigoInf,
+      .sCampoCodigo = "lCodigoInf",
+      .campos = {{"lCodigoInf", txtCodigoInf},
+                 {"sNome", txtNome},
+                 {"fLimiteCredito", txtLimiteCredito},
+                 {"sEndereco", txtEndereco},
+                 {"sBairro", txtBairro},
+                 {"sCEP", txtCEP},
+                 {"sTelefone", txtTelefone},
+                 {"sFax", txtFax},
+                 {"sContato", txtContato},
+                 {"sRG", txtRG},
+                 {"sCPF", txtCPF},
+                 {"sIE", txtIE},
+                 {"sCNPJ", txtCNPJ},
+                 {"sPai", txtPai},
+                 {"sMae", txtMae},
+                 {"sEmail", txtEMail},
+                 {"dtNascimento", dtNascimento},
+                 {"sHomePage", txtHomePage},
+                 {"txtObs", txtObs},
+                 {"sEnderecoEntrega", txtEnderecoEntrega},
+                 // An edited customer's goods go to the main district, whatever the delivery's own box says.
+                 {.sColuna = "sBairroEntrega", .valor = txtBairroEntrega, .naAlteracao = txtBairro},
+                 {"sCEPEntrega", txtCEPEntrega},
+                 {"sEnderecoCobranca", txtEnderecoCobranca},
+                 {"sBairroCobranca", txtBairroCobranca},
+                 {"sCEPCobranca", txtCEPCobranca},
+                 {"lCategoria", categoria.lCodigo},
+                 {"lCidade", chave(cidade)},
+                 {"lVendedor", vendedor.lCodigo},
+                 {"lCidadeEntrega", chave(cidadeEntrega)},
+                 {"lCidadeCobranca", chave(cidadeCobranca)}},
+      .colunas = {{"Código", 900, Align::right, "lCodigoInf", txtCodigoInf},
+                  {"Código interno da categoria", 0, Align::left, "lCategoria", categoria.lCodigo},
+                  {"Categoria", 1000, Align::left, "Categoria", txtCategoria},
+                  {"Nome", 3500, Align::left, "sNome", txtNome},
+                  {"Limite de crédito", 1700, Align::right, "LimiteCredito", txtLimiteCredito},
+                  {"Endereço", 3000, Align::left, "sEndereco", txtEndereco},
+                  {"Bairro", 1700, Align::left, "sBairro", txtBairro},
+                  {"Cidade", 2400, Align::left, "Cidade", cidade.txtCidade},
+                  {"UF", 600, Align::centre, "UF", cidade.txtUF},
+                  {"CEP", 1100, Align::centre, "sCEP", txtCEP},
+                  {"Telefone", 1600, Align::left, "sTelefone", txtTelefone},
+                  {"Fax", 1600, Align::left, "sFax", txtFax},
+                  {"Contato", 2000, Align::left, "sContato", txtContato},
+                  {"Código interno do vendedor", 0, Align::left, "lVendedor", vendedor.lCodigo},
+                  {"Vendedor", 2000, Align::left, "Vendedor", txtVendedor},
+                  {"RG", 1500, Align::left, "sRG", txtRG},
+                  {"CPF", 1500, Align::left, "sCPF", txtCPF},
+                  {"IE", 1600, Align::left, "sIE", txtIE},
+                  {"CNPJ", 1900, Align::left, "sCNPJ", txtCNPJ},
+                  {"Nascimento", 1200, Align::centre, "Nascimento", dtNascimento},
+                  {"e-Mail", 2400, Align::left, "sEmail", txtEMail},
+                  {"Home Page", 2400, Align::left, "sHomePage", txtHomePage},
+                  {"Observação", 3000, Align::left, "txtObs", txtObs},
+                  {"Pai", 2400, Align::left, "sPai", txtPai},
+                  {"Mãe", 2400, Align::left, "sMae", txtMae},
+                  {"Endereço de entrega", 3000, Align::left, "sEnderecoEntrega", txtEnderecoEntrega},
+                  {"Bairro de entrega", 1800, Align::left, "sBairroEntrega", txtBairroEntrega},
+                  {"CEP de entrega", 1500, Align::centre, "sCEPEntrega", txtCEPEntrega},
+                  {"Cidade de entrega", 2400, Align::left, "CidEntrega", cidadeEntrega.txtCidade},
+                  {"UF de entrega", 1300, Align::centre, "UFEntrega", cidadeEntrega.txtUF},
+                  {"Endereço de cobrança", 3000, Align::left, "sEnderecoCobranca", txtEnderecoCobranca},
+                  {"Bairro de cobrança", 1800, Align::left, "sBairroCobranca", txtBairroCobranca},
+                  {"CEP de cobrança", 1500, Align::centre, "sCEPCobranca", txtCEPCobranca},
+                  {"Cidade de cobrança", 2400, Align::left, "CidCobranca", cidadeCobranca.txtCidade},
+                  {"UF de cobrança", 1300, Align::centre, "UFCobranca", cidadeCobranca.txtUF}},
+      .sSelecao = sSelecao,
+      .sOrdem = "ORDER BY Clientes.lCodigoInf, Clientes.sNome ",
+      .sBusca = "frmLocalizarClientes",
+      .iColunasImpressao = 130,
+      .buscas = {&categoria, &vendedor},
+      .cidades = {&cidade, &cidadeEntrega, &cidadeCobranca},
+      .titulos = MenuTitulos::Descricao{"frmCadastroTitulosReceber", "FaturasCliente.lCliente"},
+  });
+  vMontarFormulario();
+}
+
+void frmCadastroClientes::vMontarFormulario() {
+  vMontarTela({
+      aba("Dados gerais", {linha({campo("&Código", txtCodigoInf, 3), categoria.campoPrincipal("Categoria", 5),
+                                  campo("&Nome", txtNome, cresce), campo("&Limite de crédito", txtLimiteCredito, 4)}),
+                           linha({campo("&Endereço", txtEndereco, cresce), campo("&Bairro", txtBairro, 5),
+                                  cidade.campoNome(6), cidade.campoUF(2)}),
+                           linha({campo("CEP", txtCEP, 3), campo("&Telefone", txtTelefone, 4), campo("Fax", txtFax, 4),
+                                  campo("C&ontato", txtContato, cresce), vendedor.campoPrincipal("Vendedor", 6)}),
+                           linha({campo("&RG", txtRG, 4), campo("C&PF", txtCPF, 4), campo("&IE", txtIE, 4),
+                                  campo("CNP&J", txtCNPJ, cresce), campo("N&ascimento", dtNascimento, 4)}),
+                           linha({campo("e-&Mail", txtEMail, 7), campo("&Home Page", txtHomePage, 7),
+                                  campo("Ob&servação", txtObs, cresce)})}),
+      aba("Filiação", {linha({campo("Nome do pai", txtPai, cresce), campo("Nome da mãe", txtMae, cresce)})}),
+      aba("Local de entrega",
+          {linha({campo("Endereço", txtEnderecoEntrega, cresce), campo("Bairro", txtBairroEntrega, 5)}),
+           linha({cidadeEntrega.campoNome(10), cidadeEntrega.campoUF(2), campo("CEP", txtCEPEntrega, 3)})}),
+      aba("Local de cobrança",
+          {linha({campo("Endereço", txtEnderecoCobranca, cresce), campo("Bairro", txtBairroCobranca, 5)}),
+           linha({cidadeCobranca.campoNome(10), cidadeCobranca.campoUF(2), campo("CEP", txtCEPCobranca, 3)})}),
+  });
+  setPreferredSize(24, 36);
+}
+
+void frmCadastroClientes::vAposCarregar(const ListItem&) {
+  for (CampoCidade* local : {&cidade, &cidadeEntrega, &cidadeCobranca})
+    local->vSetEstado2(local->txtCidade.text(), local->txtUF.text());
+}
+
+bool frmCadastroClientes::bVerificarRepetido(TextControl& caixa, const char* sCampo, const char* sMensagem) {
+  if (!Sistema(contexto()).bExisteCampo(caixa.text(), "Clientes", sCampo, lCodigo)) return true;
+  return recusar(sMensagem, caixa);
+}
+
+bool frmCadastroClientes::bVerificarDados() {
+  Sistema sistema(contexto());
+  if (txtCodigoInf.empty()) return recusar("Informe o código.", txtCodigoInf);
+  if (categoria.lCodigo == -1) categoria.lCodigo = sistema.lGetCategoriaPadrao();
+  if (txtNome.empty()) return recusar("Informe o nome.", txtNome);
+  if (cidade.lGetCodigo() < 1) return recusar("Informe a cidade.", cidade.txtCidade);
+  if (vendedor.lCodigo == -1) vendedor.lCodigo = sistema.lGetVendedorPadrao();
+
+  if (!bVerificarRepetido(txtRG, "sRG", "O RG informado já existe no sistema.")) return false;
+  if (!txtCPF.empty()) {
+    if (!bVerificarRepetido(txtCPF, "sCPF", "O CPF informado já existe no sistema.")) return false;
+    std::string sCPF = txtCPF.text();
+    if (!Validacoes::bValidarCPF(sCPF) && !perguntar("O CPF informado é inválido.Deseja continuar?")) return false;
+  }
+  if (!bVerificarRepetido(txtIE, "sIE", "A IE informada já existe no sistema.")) return false;
+  if (!txtCNPJ.empty()) {
+    if (!bVerificarRepetido(txtCNPJ, "sCNPJ", "O CNPJ informado já existe no sistema.")) return false;
+    std::string sCNPJ = txtCNPJ.text();
+    if (!Validacoes::bValidarCNPJ(sCNPJ) && !perguntar("O CNPJ informado é inválido.Deseja continuar?")) return false;
+  }
+  // An empty place of delivery or billing is the main city; its boxes stay as they are until the row is loaded again.
+  if (cidadeEntrega.lGetCodigo() < 1) cidadeEntrega.vSetSomenteCidade(cidade.cidade());
+  if (cidadeCobranca.lGetCodigo() < 1) cidadeCobranca.vSetSomenteCidade(cidade.cidade());
+  return true;
+}
+
+}  // namespace fenvale
