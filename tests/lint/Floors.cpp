@@ -21,6 +21,9 @@ struct Place {
 constexpr std::array<std::string_view, 8> rooms{"shell",  "store",   "access",   "registers",
                                                 "titles", "reports", "overview", "documents"};
 
+/// The services of the rooms up to the registers stand on one floor and need each other in every direction.
+constexpr std::size_t lastOfTheGround = 3;
+
 const std::vector<std::string_view> adapters{"platform/ui/qt", "platform/report/qt", "platform/print/cups"};
 
 struct Library {
@@ -63,7 +66,7 @@ std::optional<Place> placeOf(std::string_view path) {
   if (folder.starts_with("platform/")) return Place{Floor::platform, folder, 0};
   for (std::size_t i = 0; i < rooms.size(); ++i) {
     const std::string room(rooms[i]);
-    if (folder == room + "/services") return Place{Floor::services, folder, i};
+    if (folder == room + "/services") return Place{Floor::services, folder, std::max(i, lastOfTheGround)};
     if (folder == room + "/screens") return Place{Floor::screens, folder, i};
   }
   return std::nullopt;

@@ -41,6 +41,8 @@ class Permissoes {
   const std::string& sGetNomeUsuario() const { return sNomeUsuario; }
 
  private:
+  void vDarTodosDireitos();
+  void vLerDireitos();
   bool bGetDireito(bool bDireito);
   Contexto& contexto_;
   std::int32_t lCodigoUsuario = 0;

@@ -5,6 +5,8 @@ namespace fenvale {
 
 /// The exit code by which the launcher knows that the program ended because its store was updated.
 inline constexpr int exitRestart = 75;
+/// The exit code of a program that ended because of a failure.
+inline constexpr int exitFailure = 1;
 
 class Process {
  public:

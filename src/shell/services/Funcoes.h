@@ -11,6 +11,7 @@
 
 namespace fenvale {
 
+struct Error;
 class ComboBox;
 class Contexto;
 class Control;
@@ -82,6 +83,8 @@ class Funcoes {
   // Printing.
   std::string sGetNomeImpressora();
   void vHabilitarFormImpressao(Screen& frm, bool bHabilitar);
+  /// Tells what the report control reported.
+  void Rpx_MsgErro(std::int32_t lErro);
 
   // Lists.
   /// Fills the screen's list with one page of `rs`, from the 0-based record `iInicio`.
@@ -89,13 +92,18 @@ class Funcoes {
   std::int32_t lVerificarTamanhoPagina();
   /// Sorts by the 1-based column, ascending and descending in turn, whichever column it is.
   void vOrdenarListView(ListView& lst, std::size_t coluna);
-  /// Error 91 when there is no item (the first click of a screen).
+  /// Nothing happens when there is no item (the first click of a screen).
   static void vSelecionarItem(bool bSelecionar, ListItem* item);
   void vSetTamanhoColunasList(ListView& lst, const std::string& sNome);
   void vGetTamanhoColunasList(ListView& lst, const std::string& sNome);
+  /// For a screen with a check box chkFiltrar: the commands that store are there while it is off; the list is refilled.
+  void vHabilitarModuloConsultaFiltragem(Screen& frm);
   void vLimparTudo(const std::vector<Control*>& controles);
 
  private:
+  void vPreencherPagina(TelaListaPaginada& frm, std::int16_t iInicio, Recordset& rs);
+  void vRegistrarFalha(const Error& falha, const char* sProcedimento, int iOpcao = 1) const;
+
   Contexto& contexto_;
   int iOrdem_ = 0;
 };

@@ -29,6 +29,12 @@ class TratadorExcessoes {
                             int iOpcao = 1);
 
  private:
+  struct ConfiguracaoEmail;
+  void vGravarRelatorio();
+  void vOferecerEnvio();
+  bool bLerConfiguracaoEmail(ConfiguracaoEmail& configuracao) const;
+  std::string sLerSistemaIni() const;
+
   Contexto& contexto_;
   std::string sNomePrograma = "Gestor Fenvale - Versão ZENIT";
   std::string sArquivo;

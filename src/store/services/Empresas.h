@@ -17,6 +17,7 @@ class Empresas {
   /// lCodigo below 1 closes. False when no company is open afterwards.
   bool bSetEmpresa(std::int32_t lCodigo, const std::string& sNomeArquivo, const std::string& sCaminho, bool bMensagem);
   const std::string& sGetNomeArquivo() const { return sNomeArquivo_; }
+  /// Its folder with the separator at its end: "/" as the program writes it, "\\" from a file of another system.
   const std::string& sGetCaminho() const { return sCaminho_; }
   std::int32_t lGetCodigo() const { return lCodigo_; }
   /// Whether a company is open; says "Selecione uma empresa." if not and bMensagem.
@@ -31,6 +32,8 @@ class Empresas {
   void vGetLogo(Image& imgDestino, const std::string& sCampo);
 
  private:
+  void vFecharEmpresa();
+  std::string sArquivoUltimaEmpresa() const;
   Contexto& contexto_;
   std::string sNomeArquivo_;
   std::string sCaminho_;

@@ -18,8 +18,11 @@ class XML {
   static const char* sGetName() { return "XML"; }
 
   XmlDocument docPrepararArquivoXML(const std::string& sCaminho);
+  /// The same for a file that the program cannot do without: Error 91 when it is not there.
+  XmlDocument docPrepararArquivoNecessario(const std::string& sCaminho);
   /// The text of the first child of the last element of that name; empty when there is none.
   std::string sGetTag(const std::string& sCaminho, const std::string& sTag);
+  /// Rewrites the file with the characters replaced; what it was stays beside it under the ending "_INVALID_XML".
   void vValidarCaracteresXML(const std::string& sCaminho);
   /// "&" and the characters 128 to 255 of Windows-1252 as decimal references. Takes and gives UTF-8.
   static std::string sSubstituirCaracteres(std::string_view sTexto);

@@ -1,0 +1,227 @@
+#include "platform/os/Files.h"
+
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <cstdint>
+#include <cstdlib>
+#include <cstring>
+#include <filesystem>
+#include <utility>
+
+#include "platform/base/Error.h"
+#include "platform/base/Text.h"
+
+namespace fenvale::files {
+namespace {
+
+namespace fs = std::filesystem;
+
+std::string reason(int code) {
+  switch (code) {
+    case EACCES:
+    case EPERM:
+      return "permissão negada";
+    case ENOENT:
+    case ENOTDIR:
+      return "o caminho não existe";
+    case ENOSPC:
+    case EDQUOT:
+      return "o disco está cheio";
+    case EROFS:
+      return "o local permite somente leitura";
+    case EISDIR:
+      return "é uma pasta";
+    case ENAMETOOLONG:
+      return "o nome é longo demais";
+    case EIO:
+      return "falha de leitura ou gravação no disco";
+    default:
+      return std::strerror(code);
+  }
+}
+
+[[noreturn]] void fail(int code, const std::string& what, const std::string& path) {
+  constexpr std::int32_t diskFull = 61;
+  const bool full = code == ENOSPC || code == EDQUOT;
+  const bool missing = code == ENOENT || code == ENOTDIR;
+  const auto number = full ? diskFull : missing ? errors::fileNotFound : errors::fileAccess;
+  throw Error(number, "Não foi possível " + what + " " + path + ": " + reason(code) + ".");
+}
+
+/// An open file that is closed whatever happens.
+class Descriptor {
+ public:
+  explicit Descriptor(int number) : number_(number) {}
+  ~Descriptor() {
+    if (number_ >= 0) ::close(number_);
+  }
+  Descriptor(const Descriptor&) = delete;
+  Descriptor& operator=(const Descriptor&) = delete;
+  int number() const { return number_; }
+  int close() { return ::close(std::exchange(number_, -1)); }
+
+ private:
+  int number_;
+};
+
+bool writeAll(int descriptor, std::string_view bytes) {
+  while (!bytes.empty()) {
+    const ssize_t written = ::write(descriptor, bytes.data(), bytes.size());
+    if (written < 0 && errno == EINTR) continue;
+    if (written < 0) return false;
+    bytes.remove_prefix(static_cast<std::size_t>(written));
+  }
+  return true;
+}
+
+bool exists(const std::string& path) {
+  struct stat status {};
+  return ::stat(path.c_str(), &status) == 0;
+}
+
+/// The name that `folder` has for `name`, letter case apart; `name` itself when there is none.
+std::string nameIn(const std::string& folder, const std::string& name) {
+  std::error_code ignored;
+  std::string found;
+  for (const auto& entry : fs::directory_iterator(folder.empty() ? "." : folder, ignored)) {
+    const std::string candidate = entry.path().filename().string();
+    // The smallest name wins, so that the answer does not hang on the folder's own order.
+    if (equalsNoCase(candidate, name) && (found.empty() || candidate < found)) found = candidate;
+  }
+  return found.empty() ? name : found;
+}
+
+/// The folder of the file must know about its new name before a power cut does.
+void syncFolder(const std::string& path) {
+  const std::size_t end = path.rfind(separator);
+  const std::string folder = end == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(end, 1));
+  const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
+  if (descriptor.number() >= 0) ::fsync(descriptor.number());
+}
+
+mode_t modeFor(const std::string& path) {
+  struct stat status {};
+  if (::stat(path.c_str(), &status) == 0) return status.st_mode & 07777;
+  const mode_t mask = ::umask(0);
+  ::umask(mask);
+  return 0666 & ~mask;
+}
+
+}  // namespace
+
+std::string nativePath(std::string_view path) {
+  std::string native(path);
+  std::replace(native.begin(), native.end(), '\\', separator);
+  if (native.empty() || exists(native)) return native;
+  std::string result;
+  for (std::size_t place = 0; place < native.size();) {
+    const std::size_t end = std::min(native.find(separator, place), native.size());
+    const std::string part = native.substr(place, end - place);
+    if (!part.empty()) result += exists(result + part) ? part : nameIn(result, part);
+    if (end < native.size()) result += separator;
+    place = end + 1;
+  }
+  return result;
+}
+
+bool endsWithSeparator(std::string_view path) {
+  return !path.empty() && separators.find(path.back()) != std::string_view::npos;
+}
+
+bool isFile(const std::string& path) {
+  struct stat status {};
+  return ::stat(nativePath(path).c_str(), &status) == 0 && S_ISREG(status.st_mode);
+}
+
+bool isFolder(const std::string& path) {
+  struct stat status {};
+  return ::stat(nativePath(path).c_str(), &status) == 0 && S_ISDIR(status.st_mode);
+}
+
+void createFolder(const std::string& path) {
+  const std::string native = nativePath(path);
+  std::error_code failure;
+  fs::create_directories(native, failure);
+  if (failure && !isFolder(native)) fail(failure.value(), "criar a pasta", native);
+}
+
+std::string read(const std::string& path) {
+  const std::string native = nativePath(path);
+  const Descriptor file(::open(native.c_str(), O_RDONLY | O_CLOEXEC));
+  if (file.number() < 0) fail(errno, "abrir o arquivo", native);
+  std::string bytes;
+  std::string block(65536, '\0');
+  for (;;) {
+    const ssize_t count = ::read(file.number(), block.data(), block.size());
+    if (count < 0 && errno == EINTR) continue;
+    if (count < 0) fail(errno, "ler o arquivo", native);
+    if (count == 0) return bytes;
+    bytes.append(block, 0, static_cast<std::size_t>(count));
+  }
+}
+
+void write(const std::string& path, std::string_view bytes) {
+  std::string target = nativePath(path);
+  std::error_code notThere;
+  if (const fs::path real = fs::canonical(target, notThere); !notThere) target = real.string();
+  std::string partial = target + ".XXXXXX";
+  const mode_t mode = modeFor(target);
+  Descriptor file(::mkostemp(partial.data(), O_CLOEXEC));
+  if (file.number() < 0) fail(errno, "gravar o arquivo", target);
+  const bool written = writeAll(file.number(), bytes) && ::fchmod(file.number(), mode) == 0 &&
+                       ::fsync(file.number()) == 0 && file.close() == 0 &&
+                       ::rename(partial.c_str(), target.c_str()) == 0;
+  if (!written) {
+    const int code = errno;
+    ::unlink(partial.c_str());
+    fail(code, "gravar o arquivo", target);
+  }
+  syncFolder(target);
+}
+
+void remove(const std::string& path) {
+  const std::string native = nativePath(path);
+  if (::unlink(native.c_str()) != 0 && errno != ENOENT && errno != ENOTDIR) fail(errno, "apagar o arquivo", native);
+}
+
+void rename(const std::string& from, const std::string& to) {
+  const std::string source = nativePath(from);
+  const std::string target = nativePath(to);
+  if (::rename(source.c_str(), target.c_str()) == 0) return syncFolder(target);
+  if (errno != EXDEV) fail(errno, "renomear o arquivo", source);
+  write(target, read(source));
+  remove(source);
+}
+
+void restrictToOwnerAndGroup(const std::string& path) {
+  const std::string native = nativePath(path);
+  struct stat status {};
+  if (::stat(native.c_str(), &status) != 0 || ::chmod(native.c_str(), status.st_mode & 07770) != 0)
+    fail(errno, "proteger o arquivo", native);
+}
+
+std::vector<std::string> withEnding(const std::string& folder, std::string_view ending) {
+  std::vector<std::string> found;
+  std::error_code ignored;
+  for (const auto& entry : fs::directory_iterator(nativePath(folder), ignored))
+    if (endsWithNoCase(entry.path().filename().string(), ending)) found.push_back(entry.path().string());
+  std::sort(found.begin(), found.end());
+  return found;
+}
+
+std::vector<std::string> lines(std::string_view text) {
+  std::vector<std::string> result;
+  while (!text.empty()) {
+    const std::size_t end = std::min(text.find_first_of("\r\n"), text.size());
+    result.emplace_back(text.substr(0, end));
+    const bool pair = text.substr(end, 2) == lineBreak;
+    text.remove_prefix(std::min(end + (pair ? 2 : 1), text.size()));
+  }
+  return result;
+}
+
+}  // namespace fenvale::files

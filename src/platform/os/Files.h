@@ -1,0 +1,41 @@
+#pragma once
+// Files and folders. Every path may be written with "\" or "/", and a name that is not there as written is looked for
+// without regard to case; paths that are given back use "/". Failures are Errors with a sentence in Portuguese.
+
+#include <string>
+#include <string_view>
+#include <vector>
+
+namespace fenvale::files {
+
+/// The path as this system writes it: "\" becomes "/", and each part that does not exist as written takes the name that
+/// its folder has for it, letter case apart. Parts that are found under no name stay as they are.
+std::string nativePath(std::string_view path);
+inline constexpr std::string_view separators = "\\/";
+/// What ends a folder's path when a name is to follow.
+inline constexpr char separator = '/';
+bool endsWithSeparator(std::string_view path);
+
+bool isFile(const std::string& path);
+bool isFolder(const std::string& path);
+/// With the folders above it. Nothing happens when it is there.
+void createFolder(const std::string& path);
+
+/// All bytes. Error 53 when the file is not there, 75 when it cannot be read.
+std::string read(const std::string& path);
+/// The whole file or nothing of it: written beside the old one, brought to the disk and put in its place, with the old
+/// one's permissions. Error 75 when it cannot be, 61 on a full disk.
+void write(const std::string& path, std::string_view bytes);
+/// Nothing happens when it is not there. Error 75.
+void remove(const std::string& path);
+/// Replaces what is at `to`. Error 53, 75.
+void rename(const std::string& from, const std::string& to);
+/// Takes away what others than owner and group may do with the file. Error 75.
+void restrictToOwnerAndGroup(const std::string& path);
+/// The paths of the files in a folder whose names end so, without case; empty when the folder cannot be read.
+std::vector<std::string> withEnding(const std::string& folder, std::string_view ending);
+
+/// The lines of a text, whatever breaks them (CR LF, LF or CR); a break at the end opens no further line.
+std::vector<std::string> lines(std::string_view text);
+
+}  // namespace fenvale::files
