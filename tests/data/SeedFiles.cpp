@@ -49,10 +49,14 @@ std::string between(const std::string& line, const std::string& open, const std:
   return line.substr(begin + open.size(), end - begin - open.size());
 }
 
+std::string element(const std::string& name, const std::string& content) {
+  return "<" + name + ">" + content + "</" + name + ">";
+}
+
 /// The rows of a file that holds one element per line between its first two lines and its last.
-std::vector<Row> rows(const std::string& name, const std::string& element, const std::string& first,
+std::vector<Row> rows(const std::string& file, const std::string& name, const std::string& first,
                       const std::string& second) {
-  std::vector<std::string> all = lines(shipped(name));
+  const std::vector<std::string> all = lines(shipped(file));
   EXPECT_GT(all.size(), 3U);
   if (all.size() <= 3) return {};
   EXPECT_EQ(all.front(), "<?xml version=\"1.0\"?>");
@@ -63,8 +67,7 @@ std::vector<Row> rows(const std::string& name, const std::string& element, const
     Row row{between(all[i], "<" + first + ">", "</" + first + ">"),
             between(all[i], "<" + second + ">", "</" + second + ">")};
     // Read by place: nothing may stand before, between or behind the two.
-    EXPECT_EQ(all[i], "<" + element + "><" + first + ">" + row.first + "</" + first + "><" + second + ">" + row.second +
-                          "</" + second + "></" + element + ">");
+    EXPECT_EQ(all[i], element(name, element(first, row.first) + element(second, row.second)));
     found.push_back(std::move(row));
   }
   return found;
