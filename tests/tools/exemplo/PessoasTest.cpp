@@ -1,0 +1,66 @@
+// The invented customers: right by the program's own checks, and the same every time.
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <set>
+
+#include "exemplo/Pessoas.h"
+#include "platform/base/Text.h"
+#include "shell/services/Validacoes.h"
+
+namespace fenvale::exemplo {
+namespace {
+
+constexpr std::uint32_t quantos = 3000;
+
+TEST(Pessoas, TaxNumbersCarryRightCheckDigits) {
+  EXPECT_EQ(sCPFCom(529982247), "529.982.247-25");
+  EXPECT_EQ(sCNPJCom(11222333), "11.222.333/0001-81");
+  for (std::uint32_t i = 0; i < quantos; ++i) {
+    Cliente um = cliente(7, i);
+    if (um.bEmpresa) {
+      EXPECT_TRUE(Validacoes::bValidarCNPJ(um.sCNPJ)) << um.sCNPJ;
+    } else {
+      EXPECT_TRUE(Validacoes::bValidarCPF(um.sCPF)) << um.sCPF;
+    }
+    if (!um.sEmail.empty()) {
+      EXPECT_TRUE(Validacoes::bValidarEMail(um.sEmail)) << um.sEmail;
+    }
+  }
+}
+
+TEST(Pessoas, NobodySharesANumberWithAnother) {
+  std::set<std::string> numeros;
+  std::size_t dados = 0;
+  for (std::uint32_t i = 0; i < quantos; ++i) {
+    const Cliente um = cliente(7, i);
+    for (const auto& [sTipo, sNumero] : {std::pair("CPF ", um.sCPF), std::pair("CNPJ ", um.sCNPJ),
+                                         std::pair("IE ", um.sIE), std::pair("RG ", um.sRG)}) {
+      if (sNumero.empty()) continue;
+      ++dados;
+      numeros.insert(sTipo + sNumero);
+    }
+  }
+  EXPECT_EQ(numeros.size(), dados);
+}
+
+TEST(Pessoas, EveryTextFitsItsBox) {
+  for (std::uint32_t i = 0; i < quantos; ++i) {
+    const Cliente um = cliente(3, i);
+    for (const std::string& sTexto : {um.sNome, um.sBairro, um.sContato, um.sPai, um.sMae, um.sEmail, um.sHomePage})
+      EXPECT_LE(length(sTexto), 50U) << sTexto;
+    for (const std::string& sTexto : {um.sEndereco, um.sEnderecoEntrega, um.sEnderecoCobranca})
+      EXPECT_LE(length(sTexto), 100U) << sTexto;
+    EXPECT_FALSE(um.sNome.empty());
+    EXPECT_FALSE(um.sEndereco.empty());
+  }
+}
+
+TEST(Pessoas, TheSameSeedAndPlaceGiveTheSameCustomer) {
+  EXPECT_EQ(cliente(5, 12).sNome, cliente(5, 12).sNome);
+  EXPECT_EQ(cliente(5, 12).sEndereco, cliente(5, 12).sEndereco);
+  EXPECT_NE(cliente(5, 12).sEndereco + cliente(5, 13).sEndereco, cliente(6, 12).sEndereco + cliente(6, 13).sEndereco);
+}
+
+}  // namespace
+}  // namespace fenvale::exemplo
