@@ -71,14 +71,6 @@ void TelaPaginada::vPreencherLista(std::int16_t iInicio, const std::string& sSQL
   rs.open(sSQL, conexao(), CursorType::keyset, LockType::optimistic);
   funcoes().vMontarLista(*this, iInicio, rs);
   iPagina_ = scrPaginas.value();
-  vMostrarResumo(rs.recordCount());
-}
-
-void TelaPaginada::vMostrarResumo(std::int32_t lRegistros) {
-  const std::string sRegistros =
-      formatNumber(Currency::fromInteger(lRegistros), "#,##0") + (lRegistros == 1 ? " registro" : " registros");
-  scrPaginas.setSummary(lRegistros == 0 ? std::string()
-                                        : "Página " + std::to_string(iPagina_ + 1) + " · " + sRegistros);
 }
 
 void TelaPaginada::scrPaginas_Change() {

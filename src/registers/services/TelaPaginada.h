@@ -76,7 +76,6 @@ class TelaPaginada : public Tela, public TelaListaPaginada {
 
  private:
   void scrPaginas_Change();
-  void vMostrarResumo(std::int32_t lRegistros);
 
   std::vector<ColunaLista> colunas_;
   std::optional<Funcoes> funcoes_;

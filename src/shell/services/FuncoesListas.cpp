@@ -4,6 +4,7 @@
 
 #include "platform/base/Checked.h"
 #include "platform/base/Error.h"
+#include "platform/base/Format.h"
 #include "platform/base/Text.h"
 #include "platform/os/Files.h"
 #include "platform/sql/Store.h"
@@ -29,7 +30,7 @@ constexpr std::string_view sPrefixoChave = "00000";
 constexpr int iOpcaoContinuar = 2;
 
 std::string sResumo(std::int32_t lPagina, std::int32_t lRegistros) {
-  return "Página " + std::to_string(lPagina) + " · " + std::to_string(lRegistros) +
+  return "Página " + std::to_string(lPagina) + " · " + formatNumber(Currency::fromInteger(lRegistros), "#,##0") +
          (lRegistros == 1 ? " registro" : " registros");
 }
 
@@ -79,6 +80,7 @@ void Funcoes::vPreencherPagina(TelaListaPaginada& frm, std::int16_t iInicio, Rec
   frm.lstDaLista().clear();
   pb.setValue(0);
   scr.setMaximum(0);
+  scr.setSummary({});
   frm.telaDaLista().setEnabled(false);
 
   const std::int32_t lRegistros = rs.recordCount();
