@@ -1,0 +1,10 @@
+#pragma once
+// The list of all screens of the program.
+
+namespace fenvale {
+
+class Telas;
+
+void vRegistrarTelas(Telas& telas);
+
+}  // namespace fenvale

@@ -1,0 +1,153 @@
+#include "store/screens/frmEmpresaNova.h"
+
+#include "access/services/Permissoes.h"
+#include "platform/base/Text.h"
+#include "platform/os/Files.h"
+#include "platform/sql/Store.h"
+#include "shell/services/Contexto.h"
+#include "store/services/BancoDados.h"
+
+namespace fenvale {
+namespace {
+
+constexpr const char* sExtensao = ".MDB";
+
+bool bVazio(const TextBox& caixa) { return without(caixa.text(), " ").empty(); }
+
+}  // namespace
+
+frmEmpresaNova::frmEmpresaNova(Contexto& contexto)
+    : TelaEmpresas(contexto, "frmEmpresaNova", ListView::CheckBoxes::none) {
+  setTitle("Nova empresa");
+  setLayout({
+      linha({campo("Nome do arquivo", txtNomeArquivo, 8), campo("Caminho", txtCaminho, cresce)}),
+      solto(lblLocal),
+      linha({campo("Unidade", drvlstListaDiretorios, cresce)}),
+      lista(drvArvoreDiretorios, "Pastas"),
+      quadro("Empresas criadas", {lista(lstLista, "Empresas criadas"), paginas(scrPaginas, pbBarrra)}),
+      botoes({&cmdSalvar, &cmdEmitir, &cmdLocalizar}, {&cmdFechar}),
+  });
+  setPreferredSize(20, 34);
+  cmdSalvar.setPrimary();
+  mnuPopUp.setItems({
+      {"mnuLocalizarEmpresa",
+       "Localizar uma empresa já criada",
+       {},
+       [this] { vAtualizarCampo(); },
+       "localizar",
+       true,
+       true},
+      {"mnuSep1", "-", {}, {}, {}, true, true},
+      {"mnuExcluirEmpresa", "Excluir empresa", {}, [this] { vExcluirCampo(); }, "excluir", true, true},
+  });
+  drvlstListaDiretorios.onChange = [this] { drvArvoreDiretorios.setPath(drvlstListaDiretorios.drive()); };
+  drvArvoreDiretorios.onChange = [this] { txtCaminho.setText(drvArvoreDiretorios.path()); };
+  txtCaminho.onLostFocus = [this] {
+    if (files::isFolder(txtCaminho.text())) drvArvoreDiretorios.setPath(txtCaminho.text());
+  };
+  cmdSalvar.onClick = [this] { cmdSalvar_Click(); };
+  cmdLocalizar.onClick = [this] { vAtualizarCampo(); };
+}
+
+void frmEmpresaNova::onLoad() {
+  txtCaminho.setText(drvArvoreDiretorios.path());
+  TelaEmpresas::onLoad();
+}
+
+void frmEmpresaNova::vLimpar() {
+  txtNomeArquivo.setText({});
+  vMostrarAPartirDe(0);
+}
+
+bool frmEmpresaNova::bVerificarDados() {
+  if (bVazio(txtNomeArquivo)) return recusar("Informe o nome do arquivo.", txtNomeArquivo);
+  if (!endsWithNoCase(txtNomeArquivo.text(), sExtensao)) txtNomeArquivo.setText(txtNomeArquivo.text() + sExtensao);
+  if (bVazio(txtCaminho)) return recusar("Informe o caminho onde será gravado o arquivo.", drvArvoreDiretorios);
+  txtCaminho.setText(sComSeparador(txtCaminho.text()));
+  const std::string& sPasta = txtCaminho.text();
+  if (!files::isFolder(sPasta))
+    return recusar("O caminho informado \r\n\r\n" + sPasta + "\r\n\r\nnão existe.", drvArvoreDiretorios);
+  const std::string sArquivo = sPasta + txtNomeArquivo.text();
+  if (files::isFile(sArquivo))
+    return recusar(sArquivo + "\r\n\r\nO arquivo já existe no local especificado.", txtNomeArquivo);
+  return true;
+}
+
+void frmEmpresaNova::cmdSalvar_Click() {
+  if (permissoes().bGetSalvar() && bVerificarDados()) vCriarEmpresa();
+}
+
+void frmEmpresaNova::vCriarEmpresa() try {
+  const std::string sNome = txtNomeArquivo.text();
+  try {
+    if (!bIncluirECriar()) return avisar("Erro ao criar a empresa.");
+  } catch (const Error& falha) {
+    if (conexao().transactionLevel() > 0) conexao().rollbackTrans();
+    if (falha.number != errors::refused) throw;
+    if (!perguntar("Já existe uma referência para a empresa " + sNome +
+                   ".\r\nDeseja remover essa referência e criar um novo arquivo?"))
+      return avisar("Informe outro nome para a empresa.");
+    vExecutar("DELETE * FROM Empresas WHERE sNomeArquivo = " + sLiteral(sNome) + " ");
+    return vCriarEmpresa();
+  }
+  informar("Empresa criada com sucesso.");
+  vLimpar();
+} catch (const Error& falha) {
+  vRegistrarFalha(falha, "cmdSalvar_Click");
+}
+
+bool frmEmpresaNova::bIncluirECriar() {
+  const std::string& sNome = txtNomeArquivo.text();
+  const std::string& sPasta = txtCaminho.text();
+  conexao().beginTrans();
+  vExecutar("INSERT INTO Empresas (sNomeArquivo, sCaminho) VALUES (" + sLiteral(sNome) + ", " + sLiteral(sPasta) +
+            ") ");
+  if (BancoDados(contexto()).bCriarArquivoMDB(sPasta + sNome)) {
+    conexao().commitTrans();
+    return true;
+  }
+  conexao().rollbackTrans();
+  return false;
+}
+
+void frmEmpresaNova::vClicarLinha(const std::shared_ptr<ListItem>&) {
+  if (botaoDoMouse() != MouseButton::right) return;
+  vEsquecerBotaoDoMouse();
+  vMostrarMenu();
+}
+
+void frmEmpresaNova::vMostrarMenu() {
+  const bool bLinha = lstLista.selectedItem() != nullptr;
+  for (const char* sEntrada : {"mnuSep1", "mnuExcluirEmpresa"}) mnuPopUp.setItemVisible(sEntrada, bLinha);
+  mnuPopUp.show();
+}
+
+void frmEmpresaNova::vAtualizarCampo() {
+  const auto arquivo = escolherArquivo();
+  if (!arquivo) return;
+  if (!perguntar("O arquivo " + arquivo->sCaminho() +
+                 " será incluído no sistema, criando referência a uma nova empresa.\r\nConfirma a operação?"))
+    return;
+  vAlterarLista("INSERT INTO Empresas (sNomeArquivo, sCaminho) VALUES (" + sLiteral(arquivo->sNome) + ", " +
+                    sLiteral(arquivo->sPasta) + ")",
+                "vAtualizarCampo");
+}
+
+void frmEmpresaNova::vExcluirCampo() {
+  const auto item = lstLista.selectedItem();
+  if (!item) return;
+  const Arquivo arquivo = arquivoDaLinha(*item);
+  const std::string sPergunta =
+      files::isFolder(arquivo.sPasta)
+          ? "A referência ao registro " + arquivo.sNome +
+                " será removida do sistema.\r\n"
+                "Confirma a operação?\r\n"
+                "Observação: apenas a referência será removida.\r\n"
+                "O arquivo continuará no seu local atual, podendo ser referenciado novamente mais tarde."
+          : sCaminhoInvalido(arquivo.sPasta) + "\r\nDeseja prosseguir e remover a referência?";
+  if (!perguntar(sPergunta)) return;
+  vAlterarLista("DELETE * FROM Empresas WHERE lCodigo = " + std::to_string(lCodigoDaChave(item->key())),
+                "vExcluirCampo");
+}
+
+}  // namespace fenvale
