@@ -4,7 +4,12 @@
 #   ./setup.sh [programa|testes|bancada|analise]...
 #
 # programa (the default) builds and runs the program; testes adds what the suite needs, bancada the benchmarks,
+<<<<<<< HEAD
 # analise the compilers of the tidy and fuzz presets. With everything in place nothing is asked of the package manager.
+=======
+# analise the compilers of the tidy and fuzz presets, pacote what makes a .deb. With everything in place nothing is
+# asked of the package manager.
+>>>>>>> 9e15e94 (Wrap a comment)
 set -euo pipefail
 
 # One line per need; "|" parts the names that it bears on different releases, the first one known wins.
