@@ -33,7 +33,11 @@ if [ -n "$demo" ] && [ ! -e "$destino/Dados.MDB" ]; then
     echo "Esta versão não traz o programa que preenche a demonstração (fenvale-demo)." >&2
     exit 1
   fi
-  "$destino/fenvale-demo" "$destino"
+  # Half a demonstration would be taken for a whole one by the next start.
+  if ! "$destino/fenvale-demo" "$destino"; then
+    rm -rf "$destino"
+    exit 1
+  fi
 fi
 
 if [ -n "${DISPLAY:-}${WAYLAND_DISPLAY:-}" ]; then

@@ -1,15 +1,11 @@
 #!/usr/bin/env bash
 # Installs what is missing of the packages that the project needs. The other scripts call it; by hand:
 #
-#   ./setup.sh [programa|testes|bancada|analise]...
+#   ./setup.sh [programa|testes|bancada|analise|pacote]...
 #
 # programa (the default) builds and runs the program; testes adds what the suite needs, bancada the benchmarks,
-<<<<<<< HEAD
-# analise the compilers of the tidy and fuzz presets. With everything in place nothing is asked of the package manager.
-=======
 # analise the compilers of the tidy and fuzz presets, pacote what makes a .deb. With everything in place nothing is
 # asked of the package manager.
->>>>>>> 9e15e94 (Wrap a comment)
 set -euo pipefail
 
 # One line per need; "|" parts the names that it bears on different releases, the first one known wins.
@@ -28,6 +24,7 @@ testes=(
 )
 bancada=(libbenchmark-dev)
 analise=(clang clang-tidy clang-format lld)
+pacote=(dpkg-dev file)
 # Shortens a second build; a release that lacks it builds as well without.
 dispensavel=(ccache)
 
@@ -40,8 +37,9 @@ reunir() {
       testes) precisos+=("${testes[@]}") ;;
       bancada) precisos+=("${bancada[@]}") ;;
       analise) precisos+=("${analise[@]}") ;;
+      pacote) precisos+=("${pacote[@]}") ;;
       *)
-        echo "setup.sh: conjunto desconhecido: $conjunto (programa, testes, bancada, analise)" >&2
+        echo "setup.sh: conjunto desconhecido: $conjunto (programa, testes, bancada, analise, pacote)" >&2
         exit 2
         ;;
     esac

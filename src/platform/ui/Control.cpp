@@ -5,7 +5,10 @@
 namespace fenvale {
 
 Control::Control(Screen& owner, std::string name) : screen_(owner), name_(std::move(name)) { screen_.add(*this); }
-Control::~Control() { screen_.remove(*this); }
+Control::~Control() {
+  if (view_ != nullptr) view_->controlGone();
+  screen_.remove(*this);
+}
 
 void Control::reset(Date) {}
 

@@ -52,6 +52,8 @@ class ControlView {
  public:
   virtual ~ControlView() = default;
   virtual void controlChanged(Aspect aspect) = 0;
+  /// The control is being destroyed: it must not be touched any more.
+  virtual void controlGone() {}
 };
 
 class Control {

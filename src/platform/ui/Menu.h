@@ -11,9 +11,9 @@ namespace fenvale {
 struct MenuItem {
   std::string name;     ///< the entry's name in the system ("mnuCadClientes")
   std::string caption;  ///< "&" before the access key
-  std::vector<MenuItem> children;
-  std::function<void()> onClick;
-  std::string icon;
+  std::vector<MenuItem> children{};
+  std::function<void()> onClick{};
+  std::string icon{};
   bool enabled = true;
   bool visible = true;
 

@@ -21,7 +21,10 @@ void collect(const LayoutNode& node, std::vector<Control*>& order) {
 Screen::Screen(UiHost& host, std::string name, ScreenStyle style)
     : host_(host), name_(std::move(name)), style_(style) {}
 
-Screen::~Screen() = default;
+Screen::~Screen() {
+  // A screen that dies while it is shown, as when a failure passes through, must not leave a window behind.
+  if (state_ == State::loaded) host_.close(*this);
+}
 
 void Screen::setCaption(std::string caption) {
   caption_ = std::move(caption);

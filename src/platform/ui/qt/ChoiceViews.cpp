@@ -1,0 +1,237 @@
+// What is pressed or ticked, and what only shows.
+
+#include "platform/ui/Choices.h"
+#include "platform/ui/qt/Binding.h"
+#include "platform/ui/qt/KeyMap.h"
+#include "platform/ui/qt/QtHost.h"
+#include "platform/ui/qt/Render.h"
+#include "platform/ui/qt/Strings.h"
+
+namespace fenvale::qt {
+namespace {
+
+/// Icon, caption and, in a muted tone, the key that does the same.
+class CommandButton final : public QPushButton {
+ public:
+  CommandButton(const QtHost& host, const Button& control, std::string icon, bool square)
+      : host_(host), icon_(std::move(icon)), key_(QString::fromUtf8(nameOf(control.key()))), square_(square) {
+    setProperty("primary", control.primary());
+    setProperty("square", square);
+    setSizePolicy(square ? QSizePolicy::Fixed : QSizePolicy::Minimum, QSizePolicy::Fixed);
+    if (square) setFixedWidth(measures::boxHeight);
+  }
+
+  QSize sizeHint() const override {
+    QSize size = QPushButton::sizeHint();
+    if (!square_) size.setWidth(contentWidth() + 26);
+    return size;
+  }
+  QSize minimumSizeHint() const override { return square_ ? QPushButton::minimumSizeHint() : sizeHint(); }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    QStylePainter painter(this);
+    QStyleOptionButton option;
+    initStyleOption(&option);
+    const QString caption = option.text;
+    option.text.clear();
+    painter.drawControl(QStyle::CE_PushButton, option);
+    const Tokens& t = host_.theme().tokens();
+    const bool primary = property("primary").toBool();
+    const QColor strong = !isEnabled() ? t.disabledText : primary ? t.onAccent : t.text;
+    const QColor soft = !isEnabled() ? t.disabledText : primary ? t.onAccent : t.muted;
+    if (square_) {
+      QRectF place(0, 0, measures::icon, measures::icon);
+      place.moveCenter(QRectF(rect()).center());
+      return host_.icons().paint(painter, place, icon_, isEnabled() ? t.muted : t.disabledText);
+    }
+    double x = (width() - contentWidth()) / 2.0;
+    if (host_.icons().has(icon_)) {
+      host_.icons().paint(painter, QRectF(x, (height() - measures::icon) / 2.0, measures::icon, measures::icon), icon_,
+                          strong);
+      x += measures::icon + iconGap;
+    }
+    const int captionWidth = fontMetrics().size(Qt::TextShowMnemonic, caption).width();
+    painter.setPen(strong);
+    painter.drawText(QRectF(x, 0, captionWidth + 1, height()), Qt::AlignVCenter | Qt::TextShowMnemonic, caption);
+    if (key_.isEmpty()) return;
+    x += captionWidth + keyGap;
+    painter.setPen(soft);
+    painter.setFont(host_.theme().labelFont());
+    painter.drawText(QRectF(x, 0, width() - x, height()), Qt::AlignVCenter, key_);
+  }
+
+ private:
+  static constexpr int iconGap = 7, keyGap = 8;
+  int contentWidth() const {
+    int content = fontMetrics().size(Qt::TextShowMnemonic, text()).width();
+    if (host_.icons().has(icon_)) content += measures::icon + iconGap;
+    if (!key_.isEmpty()) content += keyGap + QFontMetrics(host_.theme().labelFont()).horizontalAdvance(key_);
+    return content;
+  }
+
+  const QtHost& host_;
+  std::string icon_;
+  QString key_;
+  bool square_;
+};
+
+class ButtonBinding final : public BindingOf<Button, CommandButton> {
+ public:
+  ButtonBinding(QtHost& host, Button& control, CommandButton& button, bool square)
+      : BindingOf(host, control, button), square_(square) {
+    connect(&button, &QPushButton::clicked, this, [this] { enter([this] { this->control().userClick(); }); });
+    refreshAll();
+  }
+
+ protected:
+  void refresh(Aspect aspect) override {
+    if (aspect != Aspect::caption) return;
+    const QString name = spokenName(control().caption().empty() ? control().label() : control().caption());
+    view().setAccessibleName(name);
+    if (!square_) {
+      view().setText(toQt(control().caption()));
+      view().updateGeometry();
+    } else if (control().toolTip().empty()) {
+      view().setToolTip(name);
+    }
+  }
+
+ private:
+  bool square_;
+};
+
+/// A check box or an option button: only the mark differs.
+template <typename Kind, typename Widget>
+class MarkBinding final : public BindingOf<Kind, Widget> {
+ public:
+  MarkBinding(QtHost& host, Kind& control, Widget& button, bool (Kind::*state)() const)
+      : BindingOf<Kind, Widget>(host, control, button), state_(state) {
+    button.setText(toQt(control.caption()));
+    if (control.label().empty()) button.setAccessibleName(spokenName(control.caption()));
+    QObject::connect(&button, &QAbstractButton::clicked, this, [this] {
+      this->enter([this] { this->control().userClick(); });
+      if (this->anyControl() != nullptr) refresh(Aspect::content);
+    });
+    this->refreshAll();
+  }
+
+ protected:
+  void refresh(Aspect aspect) override {
+    if (aspect != Aspect::content) return;
+    const QSignalBlocker quiet(this->view());
+    this->view().setChecked((this->control().*state_)());
+  }
+
+ private:
+  bool (Kind::*state_)() const;
+};
+
+class LabelBinding final : public BindingOf<Label, QLabel> {
+ public:
+  LabelBinding(QtHost& host, Label& control, QLabel& label) : BindingOf(host, control, label) { refreshAll(); }
+
+ protected:
+  void refresh(Aspect aspect) override {
+    if (aspect != Aspect::caption) return;
+    QString text = withoutAccessKey(control().caption());
+    text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+    view().setText(text);
+  }
+};
+
+/// A picture file, scaled down to the room there is.
+class PictureLabel final : public QLabel {
+ public:
+  std::function<void()> clicked;
+  void showFile(const QString& path) {
+    picture_ = path.isEmpty() ? QPixmap() : QPixmap(path);
+    update();
+  }
+
+ protected:
+  void paintEvent(QPaintEvent*) override {
+    if (picture_.isNull()) return;
+    QPainter painter(this);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform);
+    QSizeF size(picture_.size());
+    if (size.width() > width() || size.height() > height()) size.scale(this->size(), Qt::KeepAspectRatio);
+    QRectF place(QPointF(), size);
+    place.moveCenter(QRectF(rect()).center());
+    painter.drawPixmap(place, picture_, QRectF(picture_.rect()));
+  }
+  void mouseReleaseEvent(QMouseEvent*) override { clicked(); }
+
+ private:
+  QPixmap picture_;
+};
+
+class ImageBinding final : public BindingOf<Image, PictureLabel> {
+ public:
+  ImageBinding(QtHost& host, Image& control, PictureLabel& label) : BindingOf(host, control, label) {
+    label.clicked = [this] { enter([this] { this->control().userClick(); }); };
+    refreshAll();
+  }
+
+ protected:
+  void refresh(Aspect aspect) override {
+    if (aspect == Aspect::content) view().showFile(toQt(control().picture()));
+  }
+};
+
+}  // namespace
+
+Binding& render(Button& control, QtHost& host) {
+  return *new ButtonBinding(host, control, *new CommandButton(host, control, control.icon(), false), false);
+}
+
+Binding& renderSmall(Button& control, QtHost& host, const char* fallbackIcon) {
+  const std::string icon = control.icon().empty() ? fallbackIcon : control.icon();
+  return *new ButtonBinding(host, control, *new CommandButton(host, control, icon, true), true);
+}
+
+Binding& render(CheckBox& control, QtHost& host) {
+  return *new MarkBinding<CheckBox, QCheckBox>(host, control, *new QCheckBox, &CheckBox::checked);
+}
+
+Binding& render(OptionButton& control, QtHost& host) {
+  auto* const button = new QRadioButton;
+  // The groups are the screen's: two of them may stand in one frame.
+  button->setAutoExclusive(false);
+  return *new MarkBinding<OptionButton, QRadioButton>(host, control, *button, &OptionButton::chosen);
+}
+
+Binding& render(Label& control, QtHost& host) {
+  auto* const label = new QLabel;
+  label->setTextFormat(Qt::PlainText);
+  label->setTextInteractionFlags(Qt::TextSelectableByMouse);
+  label->setFocusPolicy(Qt::NoFocus);
+  label->setMinimumHeight(measures::textLine);
+  switch (control.style()) {
+    case Label::Style::title:
+      label->setFont(host.theme().titleFont());
+      break;
+    case Label::Style::muted:
+      label->setProperty("role", "muted");
+      break;
+    case Label::Style::help:
+      label->setProperty("role", "muted");
+      label->setWordWrap(true);
+      break;
+    case Label::Style::link:
+      label->setProperty("role", "link");
+      break;
+    case Label::Style::plain:
+      break;
+  }
+  return *new LabelBinding(host, control, *label);
+}
+
+Binding& render(Image& control, QtHost& host) {
+  auto* const label = new PictureLabel;
+  label->setMinimumSize(64, 64);
+  label->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Expanding);
+  return *new ImageBinding(host, control, *label);
+}
+
+}  // namespace fenvale::qt

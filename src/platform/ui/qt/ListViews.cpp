@@ -1,0 +1,320 @@
+// The list in report style. The cursor moves with the arrow keys and picks nothing; the mouse and Space pick.
+
+#include <numeric>
+
+#include "platform/ui/ListView.h"
+#include "platform/ui/qt/Binding.h"
+#include "platform/ui/qt/CellText.h"
+#include "platform/ui/qt/HouseStyle.h"
+#include "platform/ui/qt/ListRows.h"
+#include "platform/ui/qt/QtHost.h"
+#include "platform/ui/qt/Render.h"
+#include "platform/ui/qt/Strings.h"
+
+namespace fenvale::qt {
+namespace {
+
+constexpr double twipsPerPixel = 15;
+constexpr int cellMargin = 7;
+constexpr int tickWidth = 24;
+
+int pixelsOf(float twips) { return static_cast<int>(std::lround(static_cast<double>(twips) / twipsPerPixel)); }
+float twipsOf(int pixels) { return static_cast<float>(pixels * twipsPerPixel); }
+
+/// Draws one cell: the row's mark (bold, colour), the tick, the text.
+class RowDelegate final : public QStyledItemDelegate {
+ public:
+  RowDelegate(const QtHost& host, const ListRows& rows, QObject* parent)
+      : QStyledItemDelegate(parent), host_(host), rows_(rows) {}
+
+  void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const ListItem* const item = rows_.item(index.row());
+    if (item == nullptr) return;
+    const Theme& theme = host_.theme();
+    const bool enabled = (option.state & QStyle::State_Enabled) != 0;
+    painter->save();
+    if ((option.state & QStyle::State_Selected) != 0) painter->fillRect(option.rect, theme.tokens().cursor);
+    QRectF place = QRectF(option.rect).adjusted(cellMargin, 0, -cellMargin, 0);
+    const QVariant tick = index.data(Qt::CheckStateRole);
+    if (tick.isValid()) {
+      painter->setRenderHint(QPainter::Antialiasing);
+      drawTick(*painter, QRectF(option.rect.x() + 4, option.rect.y(), 18, option.rect.height()),
+               tick.toInt() == Qt::Checked, enabled, false, theme);
+      place.setLeft(option.rect.x() + tickWidth + 2);
+    }
+    painter->setFont(item->bold() ? theme.strongFont() : theme.baseFont());
+    painter->setPen(enabled ? theme.translated(item->colour()) : theme.tokens().disabledText);
+    drawCellText(*painter, place, rows_.text(index.row(), index.column()), rows_.alignment(index.column()));
+    painter->restore();
+  }
+  QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
+    return {0, std::max(measures::rowHeight, QFontMetrics(host_.theme().baseFont()).height() + 7)};
+  }
+  bool cut(const QModelIndex& index, int width) const {
+    const ListItem* const item = rows_.item(index.row());
+    if (item == nullptr) return false;
+    const QFont font = item->bold() ? host_.theme().strongFont() : host_.theme().baseFont();
+    const int tick = index.data(Qt::CheckStateRole).isValid() ? tickWidth : 0;
+    return cellTextWidth(font, rows_.text(index.row(), index.column())) > width - 2 * cellMargin - tick;
+  }
+
+ private:
+  const QtHost& host_;
+  const ListRows& rows_;
+};
+
+/// Headings with the mark of the sorted column.
+class Headings final : public QHeaderView {
+ public:
+  explicit Headings(const QtHost& host) : QHeaderView(Qt::Horizontal), host_(host) {
+    setSectionsClickable(true);
+    setHighlightSections(false);
+    setMinimumSectionSize(24);
+    setStretchLastSection(false);
+    setTextElideMode(Qt::ElideRight);
+    setFocusPolicy(Qt::NoFocus);
+    setFont(host.theme().labelFont());
+  }
+  int sortColumn = -1;
+  bool ascending = true;
+
+ protected:
+  void paintSection(QPainter* painter, const QRect& rect, int section) const override {
+    QHeaderView::paintSection(painter, rect, section);
+    if (section != sortColumn) return;
+    const bool right = model()->headerData(section, Qt::Horizontal, Qt::TextAlignmentRole).toInt() & Qt::AlignRight;
+    const QRect mark = right ? QRect(rect.left() + 3, rect.y(), 12, rect.height())
+                             : QRect(rect.right() - 15, rect.y(), 12, rect.height());
+    drawChevron(*painter, mark, ascending ? Direction::up : Direction::down, host_.theme().tokens().accent);
+  }
+
+ private:
+  const QtHost& host_;
+};
+
+class RowsView final : public QTreeView {
+ public:
+  explicit RowsView(const QtHost& host) : host_(host) {
+    setRootIsDecorated(false);
+    setItemsExpandable(false);
+    setUniformRowHeights(true);
+    setAlternatingRowColors(true);
+    setAllColumnsShowFocus(true);
+    setSelectionMode(QAbstractItemView::SingleSelection);
+    setEditTriggers(QAbstractItemView::NoEditTriggers);
+    setHorizontalScrollMode(QAbstractItemView::ScrollPerPixel);
+    setTabKeyNavigation(false);
+    setMinimumHeight(6 * measures::rowHeight);
+    setHeader(new Headings(host));
+    setMouseTracking(true);
+  }
+  Headings& headings() const { return static_cast<Headings&>(*header()); }
+  std::function<void(int row)> cursorMoved;
+  std::function<void(int row, MouseButton button)> clickedRow;
+  std::function<void(int row)> doubleClickedRow;
+  std::function<void(int row)> ticked;
+  bool ticks = false;
+
+ protected:
+  void currentChanged(const QModelIndex& current, const QModelIndex& previous) override {
+    QTreeView::currentChanged(current, previous);
+    if (cursorMoved && current.isValid()) cursorMoved(current.row());
+  }
+  void mousePressEvent(QMouseEvent* event) override {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    QTreeView::mousePressEvent(event);
+    if (!index.isValid()) return;
+    const int row = index.row();
+    if (event->button() == Qt::LeftButton && ticks && onTick(index, event->position().toPoint())) return ticked(row);
+    if (event->button() == Qt::LeftButton) return clickedRow(row, MouseButton::left);
+    if (event->button() == Qt::RightButton) clickedRow(row, MouseButton::right);
+  }
+  void mouseDoubleClickEvent(QMouseEvent* event) override {
+    const QModelIndex index = indexAt(event->position().toPoint());
+    if (!index.isValid() || event->button() != Qt::LeftButton) return;
+    const int row = index.row();
+    if (ticks && onTick(index, event->position().toPoint())) return ticked(row);
+    // A double click is two clicks, then itself.
+    const QPointer<RowsView> self(this);
+    clickedRow(row, MouseButton::left);
+    if (self != nullptr) doubleClickedRow(row);
+  }
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->matches(QKeySequence::Copy)) return copyRows();
+    if (event->key() == Qt::Key_Menu && currentIndex().isValid())
+      return clickedRow(currentIndex().row(), MouseButton::right);
+    if (event->key() != Qt::Key_Space || !currentIndex().isValid()) return QTreeView::keyPressEvent(event);
+    const int row = currentIndex().row();
+    const QPointer<RowsView> self(this);
+    if (ticks) ticked(row);
+    if (self != nullptr) clickedRow(row, MouseButton::left);
+  }
+  void paintEvent(QPaintEvent* event) override {
+    QTreeView::paintEvent(event);
+    if (model() == nullptr || model()->rowCount() > 0) return;
+    QPainter painter(viewport());
+    painter.setPen(host_.theme().tokens().muted);
+    painter.setFont(host_.theme().baseFont());
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("Nenhum registro"));
+  }
+  bool viewportEvent(QEvent* event) override {
+    if (event->type() == QEvent::ToolTip) {
+      const auto& help = static_cast<QHelpEvent&>(*event);
+      const QModelIndex index = indexAt(help.pos());
+      const auto* const delegate = static_cast<const RowDelegate*>(itemDelegate());
+      const bool cut = index.isValid() && delegate->cut(index, columnWidth(index.column()));
+      QToolTip::showText(help.globalPos(), cut ? index.data().toString() : toolTip(), this);
+      return true;
+    }
+    return QTreeView::viewportEvent(event);
+  }
+
+ private:
+  bool onTick(const QModelIndex& index, const QPoint& place) const {
+    return index.column() == 0 && place.x() < visualRect(index).left() + tickWidth;
+  }
+  void copyRows() const {
+    if (!currentIndex().isValid()) return;
+    QStringList cells;
+    for (int column = 0; column < model()->columnCount(); ++column)
+      if (!isColumnHidden(column)) cells << model()->index(currentIndex().row(), column).data().toString();
+    QGuiApplication::clipboard()->setText(cells.join(u'\t'));
+  }
+
+  const QtHost& host_;
+};
+
+class ListBinding final : public BindingOf<ListView, RowsView> {
+ public:
+  ListBinding(QtHost& host, ListView& control, RowsView& view)
+      : BindingOf(host, control, view), rows_(new ListRows(control, &view)), later_(new QTimer(&view)) {
+    later_->setSingleShot(true);
+    later_->setInterval(0);
+    connect(later_, &QTimer::timeout, this, [this] { showRows(); });
+    view.setModel(rows_);
+    view.setItemDelegate(new RowDelegate(host, *rows_, &view));
+    view.ticks = control.hasCheckBoxes();
+    listen();
+    refreshAll();
+    showRows();
+  }
+  ~ListBinding() override { rows_ = nullptr; }
+
+  bool eventFilter(QObject* watched, QEvent* event) override {
+    // The rows that were added since the last turn must be there before a key acts on them.
+    if (event->type() == QEvent::KeyPress || event->type() == QEvent::FocusIn || event->type() == QEvent::Paint)
+      showRows();
+    return Binding::eventFilter(watched, event);
+  }
+  void focusGiven() override {
+    if (!view().currentIndex().isValid() && rows_->rowCount() > 0) {
+      const QSignalBlocker quiet(view().selectionModel());
+      view().selectionModel()->setCurrentIndex(rows_->index(0, firstShown()), QItemSelectionModel::NoUpdate);
+    }
+  }
+
+ protected:
+  void refresh(Aspect aspect) override {
+    switch (aspect) {
+      case Aspect::columns:
+        showColumns();
+        break;
+      case Aspect::items:
+        later_->start();
+        view().viewport()->update();
+        break;
+      case Aspect::selection:
+        showRows();
+        showCursor();
+        break;
+      case Aspect::row:
+        view().viewport()->update();
+        break;
+      default:
+        break;
+    }
+  }
+
+ private:
+  void listen() {
+    view().cursorMoved = [this](int row) {
+      if (!showing_) enter([&] { control().userMoveCursor(static_cast<std::size_t>(row)); });
+    };
+    view().clickedRow = [this](int row, MouseButton button) {
+      enter([&] { control().userClickRow(static_cast<std::size_t>(row), button); });
+    };
+    view().doubleClickedRow = [this](int row) {
+      enter([&] { control().userDoubleClickRow(static_cast<std::size_t>(row)); });
+    };
+    view().ticked = [this](int row) {
+      const ListItem* const item = rows_->item(row);
+      if (item != nullptr) enter([&] { control().userCheckRow(static_cast<std::size_t>(row), !item->checked()); });
+    };
+    QHeaderView* const header = view().header();
+    connect(header, &QHeaderView::sectionClicked, this,
+            [this](int section) { enter([&] { control().userClickColumn(static_cast<std::size_t>(section) + 1); }); });
+    connect(header, &QHeaderView::sectionResized, this, [this](int section, int, int pixels) {
+      if (!showing_) enter([&] { control().userResizeColumn(static_cast<std::size_t>(section) + 1, twipsOf(pixels)); });
+    });
+  }
+  int firstShown() const {
+    for (int column = 0; column < rows_->columnCount(); ++column)
+      if (!view().isColumnHidden(column)) return column;
+    return 0;
+  }
+  void showColumns() {
+    const Showing showing(showing_);
+    if (rows_->columnCount() != view().header()->count()) rows_->columnsChanged();
+    for (std::size_t column = 0; column < control().columns().size(); ++column) {
+      const float width = control().columns()[column].width;
+      const int section = static_cast<int>(column);
+      view().header()->setSectionHidden(section, width <= 0);
+      if (width > 0) view().header()->resizeSection(section, pixelsOf(width));
+    }
+    view().header()->viewport()->update();
+  }
+  void showRows() {
+    if (rows_ == nullptr || anyControl() == nullptr) return;
+    later_->stop();
+    Headings& headings = view().headings();
+    if (headings.sortColumn != control().sortColumn() || headings.ascending != control().sortAscending()) {
+      headings.sortColumn = control().sortColumn();
+      headings.ascending = control().sortAscending();
+      headings.viewport()->update();
+    }
+    const Showing showing(showing_);
+    if (rows_->catchUp()) showCursor();
+  }
+  void showCursor() {
+    const Showing showing(showing_);
+    const auto selected = control().selectedItem();
+    if (selected == nullptr) {
+      view().selectionModel()->clear();
+      return;
+    }
+    const int here = view().currentIndex().row();
+    if (rows_->item(here) == selected.get()) return;
+    for (int row = 0; row < rows_->rowCount(); ++row)
+      if (rows_->item(row) == selected.get()) {
+        view().setCurrentIndex(rows_->index(row, std::max(view().currentIndex().column(), firstShown())));
+        return;
+      }
+  }
+  /// While the view is brought up to date, what it tells is no doing of the person's.
+  struct Showing {
+    explicit Showing(bool& flag) : flag_(flag), before_(std::exchange(flag, true)) {}
+    ~Showing() { flag_ = before_; }
+    bool& flag_;
+    bool before_;
+  };
+
+  ListRows* rows_;
+  QTimer* later_;
+  bool showing_ = false;
+};
+
+}  // namespace
+
+Binding& render(ListView& control, QtHost& host) { return *new ListBinding(host, control, *new RowsView(host)); }
+
+}  // namespace fenvale::qt
