@@ -1,5 +1,6 @@
 #include "platform/base/Checked.h"
 
+#include <algorithm>
 #include <cmath>
 #include <limits>
 
@@ -65,7 +66,8 @@ std::int32_t readInt32(std::string_view text) {
   if (negative || text[place] == '+') ++place;
   std::int64_t value = 0;
   for (; place < text.size() && text[place] >= '0' && text[place] <= '9'; ++place)
-    value = toInt32(value * 10 + (text[place] - '0'));
+    // One digit beyond the range is enough to know; the sign decides on the last step.
+    value = std::min<std::int64_t>(value * 10 + (text[place] - '0'), std::int64_t{1} << 32);
   return toInt32(negative ? -value : value);
 }
 

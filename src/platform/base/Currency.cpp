@@ -35,10 +35,12 @@ Currency Currency::fromDecimal(std::string_view text) {
   while (end > place && text[end - 1] == ' ') --end;
   const bool negative = place < end && text[place] == '-';
   if (place < end && (text[place] == '-' || text[place] == '+')) ++place;
+  // Digits are added with the number's own sign, so that the lowest amount is read as well.
+  const std::int64_t sign = negative ? -1 : 1;
   std::int64_t units = 0;
   bool digits = false;
   for (; place < end && isDigit(text[place]); ++place, digits = true)
-    units = addChecked(multiplyChecked(units, 10), text[place] - '0');
+    units = addChecked(multiplyChecked(units, 10), sign * (text[place] - '0'));
   units = multiplyChecked(units, unit);
   if (place < end && text[place] == '.') {
     std::int64_t weight = unit / 10;
@@ -47,7 +49,7 @@ Currency Currency::fromDecimal(std::string_view text) {
     for (++place; place < end && isDigit(text[place]); ++place, digits = true) {
       const int digit = text[place] - '0';
       if (weight > 0) {
-        units = addChecked(units, weight * digit);
+        units = addChecked(units, sign * weight * digit);
         weight /= 10;
         if (weight == 0) fifth = -1;
       } else if (fifth < 0) {
@@ -56,10 +58,10 @@ Currency Currency::fromDecimal(std::string_view text) {
         beyond = beyond || digit != 0;
       }
     }
-    if (fifth > 5 || (fifth == 5 && (beyond || units % 2 != 0))) units = addChecked(units, 1);
+    if (fifth > 5 || (fifth == 5 && (beyond || units % 2 != 0))) units = addChecked(units, sign);
   }
   if (!digits || place != end) notANumber(text);
-  return Currency(negative ? -units : units);
+  return Currency(units);
 }
 
 Currency Currency::fromBrazilian(std::string_view text) {

@@ -1,0 +1,166 @@
+#include "platform/os/Files.h"
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <sys/stat.h>
+#include <unistd.h>
+
+#include <filesystem>
+
+#include "platform/base/Error.h"
+#include "support/ProgramaDeTeste.h"
+
+namespace fenvale {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+namespace fs = std::filesystem;
+
+mode_t modeOf(const std::string& path) {
+  struct stat status {};
+  EXPECT_EQ(::stat(path.c_str(), &status), 0) << path;
+  return status.st_mode & 07777;
+}
+
+template <typename Action>
+Error failure(Action action) {
+  try {
+    action();
+  } catch (const Error& error) {
+    return error;
+  }
+  return {0, ""};
+}
+
+class Files : public testing::Test {
+ protected:
+  PastaTemporaria folder;
+};
+
+TEST_F(Files, APathOfTheOldSystemFindsItsFile) {
+  folder.gravar("Loja Centro/Dados.mdb", "x");
+  const std::string base = folder.caminho();
+  EXPECT_EQ(files::nativePath(base + "\\LOJA centro\\dados.MDB"), base + "/Loja Centro/Dados.mdb");
+  EXPECT_TRUE(files::isFile(base + "\\loja centro\\DADOS.mdb"));
+  EXPECT_TRUE(files::isFolder(base + "\\loja centro\\"));
+  EXPECT_FALSE(files::isFile(base + "\\loja centro"));
+  EXPECT_FALSE(files::isFolder(base + "/loja centro/dados.mdb"));
+}
+
+TEST_F(Files, ANameThatIsThereAsWrittenWinsOverItsLikes) {
+  folder.gravar("dados.mdb", "small");
+  folder.gravar("Dados.MDB", "mixed");
+  EXPECT_EQ(files::read(folder.arquivo("Dados.MDB")), "mixed");
+  EXPECT_EQ(files::read(folder.arquivo("dados.mdb")), "small");
+  EXPECT_EQ(files::nativePath(folder.arquivo("DADOS.MDB")), folder.arquivo("Dados.MDB"));
+}
+
+TEST_F(Files, AccentsAreMatchedWithoutCaseToo) {
+  folder.gravar("Praça da Sé/ação.txt", "x");
+  EXPECT_TRUE(files::isFile(folder.caminho() + "\\PRAÇA DA SÉ\\AÇÃO.TXT"));
+}
+
+TEST_F(Files, WhatIsNotThereKeepsItsName) {
+  EXPECT_EQ(files::nativePath(folder.caminho() + "\\Nova\\Arquivo.MDB"), folder.caminho() + "/Nova/Arquivo.MDB");
+  EXPECT_EQ(files::nativePath(""), "");
+  EXPECT_FALSE(files::isFile(""));
+  EXPECT_FALSE(files::isFolder(""));
+}
+
+TEST_F(Files, AFileIsWrittenWholeAndReadBackByteForByte) {
+  std::string bytes;
+  for (int code = 0; code < 256; ++code) bytes += static_cast<char>(static_cast<unsigned char>(code));
+  files::write(folder.arquivo("a.bin"), bytes);
+  EXPECT_EQ(files::read(folder.arquivo("a.bin")), bytes);
+  files::write(folder.arquivo("a.bin"), "novo");
+  EXPECT_EQ(files::read(folder.arquivo("a.bin")), "novo");
+  EXPECT_THAT(folder.nomes(), ElementsAre("a.bin"));
+}
+
+TEST_F(Files, WritingKeepsThePermissionsOfTheOldFile) {
+  folder.gravar("a.txt", "velho");
+  ::chmod(folder.arquivo("a.txt").c_str(), 0640);
+  files::write(folder.arquivo("A.TXT"), "novo");
+  EXPECT_EQ(modeOf(folder.arquivo("a.txt")), 0640U);
+  EXPECT_THAT(folder.nomes(), ElementsAre("a.txt"));
+}
+
+TEST_F(Files, WritingGoesThroughALinkToTheFileBehindIt) {
+  folder.gravar("real.txt", "velho");
+  fs::create_symlink(folder.arquivo("real.txt"), folder.arquivo("link.txt"));
+  files::write(folder.arquivo("link.txt"), "novo");
+  EXPECT_TRUE(fs::is_symlink(folder.arquivo("link.txt")));
+  EXPECT_EQ(folder.ler("real.txt"), "novo");
+}
+
+TEST_F(Files, WhatCannotBeDoneIsToldInOneSentence) {
+  const Error missing = failure([&] { (void)files::read(folder.arquivo("nada.txt")); });
+  EXPECT_EQ(missing.number, errors::fileNotFound);
+  EXPECT_EQ(missing.description,
+            "Não foi possível abrir o arquivo " + folder.arquivo("nada.txt") + ": o caminho não existe.");
+  const Error noFolder = failure([&] { files::write(folder.arquivo("nada/a.txt"), "x"); });
+  EXPECT_EQ(noFolder.number, errors::fileNotFound);
+  const Error isFolder = failure([&] { (void)files::read(folder.caminho()); });
+  EXPECT_EQ(isFolder.number, errors::fileAccess);
+  EXPECT_EQ(isFolder.description, "Não foi possível ler o arquivo " + folder.caminho() + ": é uma pasta.");
+}
+
+TEST_F(Files, AFullDiskLeavesTheOldFileAlone) {
+  // The device that is always full stands in for a disk.
+  const Error full = failure([] { files::write("/dev/full/x", "x"); });
+  EXPECT_EQ(full.number, errors::fileNotFound);
+  folder.gravar("a.txt", "velho");
+  ::chmod(folder.caminho().c_str(), 0500);
+  if (::geteuid() != 0) {
+    const Error refused = failure([&] { files::write(folder.arquivo("a.txt"), "novo"); });
+    EXPECT_EQ(refused.number, errors::fileAccess);
+  }
+  ::chmod(folder.caminho().c_str(), 0700);
+  EXPECT_FALSE(folder.ler("a.txt").empty());
+}
+
+TEST_F(Files, FoldersAreMadeWithThoseAboveThem) {
+  files::createFolder(folder.caminho() + "\\a\\b");
+  EXPECT_TRUE(fs::is_directory(folder.arquivo("a/b")));
+  files::createFolder(folder.caminho() + "/A/B");
+  EXPECT_THAT(folder.nomes(), ElementsAre("a"));
+  folder.gravar("ocupado", "x");
+  EXPECT_NE(failure([&] { files::createFolder(folder.arquivo("ocupado")); }).number, 0);
+}
+
+TEST_F(Files, RemovingAndRenaming) {
+  folder.gravar("a.txt", "a");
+  folder.gravar("b.txt", "b");
+  files::rename(folder.arquivo("A.txt"), folder.arquivo("b.txt"));
+  EXPECT_THAT(folder.nomes(), ElementsAre("b.txt"));
+  EXPECT_EQ(folder.ler("b.txt"), "a");
+  files::remove(folder.arquivo("B.TXT"));
+  files::remove(folder.arquivo("b.txt"));
+  EXPECT_THAT(folder.nomes(), IsEmpty());
+  EXPECT_EQ(failure([&] { files::rename(folder.arquivo("a"), folder.arquivo("b")); }).number, errors::fileNotFound);
+}
+
+TEST_F(Files, OthersThanOwnerAndGroupAreShutOut) {
+  folder.gravar("Dados.MDB", "x");
+  ::chmod(folder.arquivo("Dados.MDB").c_str(), 0666);
+  files::restrictToOwnerAndGroup(folder.arquivo("dados.mdb"));
+  EXPECT_EQ(modeOf(folder.arquivo("Dados.MDB")), 0660U);
+}
+
+TEST_F(Files, EndingsAreMatchedWithoutCase) {
+  for (const char* name : {"b.tmp", "A.TMP", "tmp", "c.tmpx"}) folder.gravar(name, "x");
+  EXPECT_THAT(files::withEnding(folder.caminho(), ".tmp"),
+              ElementsAre(folder.arquivo("A.TMP"), folder.arquivo("b.tmp")));
+  EXPECT_THAT(files::withEnding(folder.arquivo("nada"), ".tmp"), IsEmpty());
+}
+
+TEST_F(Files, LinesWhateverBreaksThem) {
+  EXPECT_THAT(files::lines("a\r\nb\nc\rd"), ElementsAre("a", "b", "c", "d"));
+  EXPECT_THAT(files::lines("a\r\n"), ElementsAre("a"));
+  EXPECT_THAT(files::lines("\r\n\r\n"), ElementsAre("", ""));
+  EXPECT_THAT(files::lines(""), IsEmpty());
+}
+
+}  // namespace
+}  // namespace fenvale
