@@ -5,7 +5,10 @@
 #include <libxml/tree.h>
 #include <libxml/xmlerror.h>
 
+#include <algorithm>
+#include <limits>
 #include <mutex>
+#include <string_view>
 
 #include "platform/base/Error.h"
 #include "platform/base/Text.h"
@@ -79,9 +82,11 @@ void collect(const xmlNode* node, const std::string& name, std::vector<XmlElemen
   }
 }
 
-/// Files of this machine only: whatever names another place is answered with nothing.
+/// Files of this machine only: whatever names another place is answered with nothing, in silence.
 xmlParserInput* localEntity(const char* url, const char* id, xmlParserCtxt* parser) {
-  return xmlNoNetExternalEntityLoader(url, id, parser);
+  const std::string_view place = url == nullptr ? std::string_view() : url;
+  const bool local = place.find("://") == std::string_view::npos || place.starts_with("file://");
+  return local ? xmlNoNetExternalEntityLoader(url, id, parser) : nullptr;
 }
 
 void prepareLibrary() {
@@ -92,10 +97,11 @@ void prepareLibrary() {
   });
 }
 
-std::string trimmedReason(const char* message) {
+/// The parser's words as one line.
+std::string reasonOf(const char* message) {
   std::string reason = message == nullptr ? std::string() : message;
-  while (!reason.empty() && (reason.back() == '\n' || reason.back() == '\r')) reason.pop_back();
-  return reason;
+  std::replace(reason.begin(), reason.end(), '\n', ' ');
+  return trim(reason);
 }
 
 XmlParseError errorOf(xmlParserCtxt& parser, const std::string& path) {
@@ -107,7 +113,7 @@ XmlParseError errorOf(xmlParserCtxt& parser, const std::string& path) {
   if (last != nullptr) {
     error.line = last->line;
     error.column = last->int2;
-    error.reason = trimmedReason(last->message);
+    error.reason = reasonOf(last->message);
   }
   if (error.reason.empty()) error.reason = "O documento não pôde ser lido.";
   if (error.filePosition < 0) error.filePosition = 0;
@@ -133,6 +139,10 @@ XmlDocument XmlDocument::load(const std::string& path) {
     bytes = files::read(path);
   } catch (const Error& failure) {
     result.error_ = {failure.number, 0, 0, 0, path, failure.description};
+    return result;
+  }
+  if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
+    result.error_ = {errors::fileAccess, 0, 0, 0, path, "O documento é grande demais."};
     return result;
   }
   const ParserPointer parser(xmlNewParserCtxt());

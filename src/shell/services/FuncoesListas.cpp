@@ -7,6 +7,7 @@
 #include "platform/base/Format.h"
 #include "platform/base/Text.h"
 #include "platform/os/Files.h"
+#include "platform/sql/Collation.h"
 #include "platform/sql/Store.h"
 #include "platform/ui/Choices.h"
 #include "platform/ui/ListView.h"
@@ -116,9 +117,7 @@ std::int32_t Funcoes::lVerificarTamanhoPagina() try {
 void Funcoes::vOrdenarListView(ListView& lst, std::size_t coluna) {
   const bool bCrescente = iOrdem_ == 0;
   iOrdem_ = bCrescente ? 1 : 0;
-  lst.sort(coluna - 1, bCrescente, [](std::string_view sPrimeiro, std::string_view sSegundo) {
-    return toLower(sPrimeiro).compare(toLower(sSegundo));
-  });
+  lst.sort(coluna - 1, bCrescente, compareTexts);
 }
 
 void Funcoes::vSelecionarItem(bool bSelecionar, ListItem* item) {

@@ -7,6 +7,7 @@
 #include <csignal>
 #include <cstdlib>
 #include <ctime>
+#include <filesystem>
 
 #include "platform/base/Error.h"
 #include "platform/os/ApplicationPath.h"
