@@ -30,8 +30,16 @@ void CheckBox::setChecked(bool checked) {
   raise(onClick);
 }
 
+void CheckBox::setLocked(bool locked) {
+  locked_ = locked;
+  changed(Aspect::locked);
+}
+
 void CheckBox::userClick() {
-  if (acceptsInput()) setChecked(!checked_);
+  if (!acceptsInput()) return;
+  // A view has already moved its own tick: it is told to show the control's again.
+  if (locked_) return changed(Aspect::content);
+  setChecked(!checked_);
 }
 
 OptionButton::OptionButton(Screen& owner, std::string name, std::string caption, int group)

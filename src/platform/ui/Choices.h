@@ -42,6 +42,9 @@ class CheckBox final : public Control {
   const std::string& caption() const { return caption_; }
   bool checked() const { return checked_; }
   void setChecked(bool checked);
+  /// Shows a tick that the rules set and the person cannot change; keys still reach it.
+  bool locked() const { return locked_; }
+  void setLocked(bool locked);
 
   /// After a change of the tick, by the person or by the rules.
   std::function<void()> onClick;
@@ -50,6 +53,7 @@ class CheckBox final : public Control {
  private:
   std::string caption_;
   bool checked_ = false;
+  bool locked_ = false;
 };
 
 /// One of several exclusive choices: those of one screen with the same group.

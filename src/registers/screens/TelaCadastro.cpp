@@ -44,10 +44,12 @@ void TelaCadastro::vDescrever(DescricaoCadastro descricao) {
   }
 }
 
-void TelaCadastro::vMontarTela(std::vector<LayoutNode> formulario, const std::vector<Control*>& outros) {
+void TelaCadastro::vMontarTela(std::vector<LayoutNode> formulario, const std::vector<Control*>& outros,
+                               std::vector<LayoutNode> abaixoDaLista) {
   std::vector<LayoutNode> nos = std::move(formulario);
   nos.push_back(lista(lstLista, "Registros"));
   nos.push_back(paginas(scrPaginas, pbBarrra));
+  for (LayoutNode& no : abaixoDaLista) nos.push_back(std::move(no));
   std::vector<Control*> comandos{&cmdNovo, &cmdSalvar, &cmdExcluir, &cmdEmitir, &cmdLocalizar};
   comandos.insert(comandos.end(), outros.begin(), outros.end());
   nos.push_back(botoes(comandos, {&cmdFechar}));

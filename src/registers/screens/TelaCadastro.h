@@ -51,7 +51,7 @@ struct DescricaoCadastro {
   std::optional<MenuTitulos::Descricao> titulos{};  ///< the pop-up menu of a right click
 };
 
-class TelaCadastro : public TelaPaginada, public TelaComLista {
+class TelaCadastro : public TelaPaginada, public virtual TelaComLista {
  public:
   Button cmdNovo{*this, "cmdNovo", "Novo", "novo", Key::f2};
   Button cmdSalvar{*this, "cmdSalvar", "Salvar", "salvar", Key::f3};
@@ -81,8 +81,10 @@ class TelaCadastro : public TelaPaginada, public TelaComLista {
 
   void vDescrever(DescricaoCadastro descricao);
   const DescricaoCadastro& descricao() const { return descricao_; }
-  /// The form over the list, its pages and the foot; `outros` are further commands, after Localizar.
-  void vMontarTela(std::vector<LayoutNode> formulario, const std::vector<Control*>& outros = {});
+  /// The form over the list, its pages and the foot; `outros` are further commands, after Localizar, and
+  /// `abaixoDaLista` stands between the pages and the foot.
+  void vMontarTela(std::vector<LayoutNode> formulario, const std::vector<Control*>& outros = {},
+                   std::vector<LayoutNode> abaixoDaLista = {});
 
   // The steps that a register with rules of its own overrides.
   /// The clause of the list: the one that is asked for, and never the hidden rows.

@@ -71,7 +71,7 @@ class TelaBusca {
 };
 
 /// The title screens, as invoice screens show them inside their open transaction.
-class TelaTitulos : public TelaComLista {
+class TelaTitulos : public virtual TelaComLista {
  public:
   /// The invoice whose titles are shown; 0 is off.
   virtual void vSetFaturaPreview(std::int32_t lFatura) = 0;

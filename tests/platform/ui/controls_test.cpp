@@ -35,6 +35,16 @@ TEST_F(ControlsTest, ATextBoxCutsAtItsLengthInCharacters) {
   EXPECT_EQ(box.text(), "longer than a person could type");
 }
 
+TEST_F(ControlsTest, ALockedTickIsOnlyTheRulesToChange) {
+  CheckBox check(screen, "chkEntrada", "Com entrada");
+  check.setLocked(true);
+  check.userClick();
+  EXPECT_FALSE(check.checked());
+  check.setChecked(true);
+  check.userClick();
+  EXPECT_TRUE(check.checked());
+}
+
 TEST_F(ControlsTest, ALockedBoxIsReadOnly) {
   TextBox box(screen, "txtNome");
   box.setText("ADMINISTRADOR");
