@@ -1,0 +1,220 @@
+#include "titles/screens/TelaFaturas.h"
+
+#include "platform/base/Checked.h"
+#include "platform/base/Format.h"
+#include "platform/base/Text.h"
+#include "shell/services/Contexto.h"
+#include "shell/services/Telas.h"
+#include "store/services/Sistema.h"
+#include "titles/services/Lado.h"
+
+namespace fenvale {
+namespace {
+
+std::string sReais(Currency fValor) { return "R$ " + formatNumber(fValor); }
+
+/// In the order in which the rules name them, one list after the other.
+void vJuntar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras) {
+  for (ColunaLista& coluna : outras) colunas.push_back(std::move(coluna));
+}
+
+}  // namespace
+
+TelaFaturas::TelaFaturas(Contexto& contexto, const Lado& lado)
+    : TelaCadastro(contexto, lado.faturas.sNome),
+      entidades(*this, contexto, lado, lado.sInformePessoaFatura, &txtCondPagCodigoInf),
+      condicao(*this, contexto, {&txtCondPagCodigoInf, &txtNumeroParcelas, &txtIntervalo, &chkEntrada},
+               {"frmLocalizarCondicoesPagamentoRapido", &entidades.portador.caixa, "cmdBuscaCondicaoPagamento",
+                "Localizar condição de pagamento"}),
+      lado_(lado),
+      titulos_(contexto),
+      gerador_(contexto, lado) {
+  condicao.vSetCadastro("frmCadastroCondicoesPagamento", "Cadastrar condição de pagamento", cmdNovaCondicaoPagamento);
+  chkEntrada.setLocked(true);
+
+  std::vector<CampoBusca*> buscas = entidades.buscas();
+  buscas.push_back(&condicao);
+  vDescrever({
+      .sLegenda = lado.faturas.sLegenda,
+      .sTitulo = lado.faturas.sTitulo,
+      .sTabela = lado.sFaturas,
+      .codigo = &txtNumeroFatura,
+      .sCampoCodigo = "lNumeroFatura",
+      .colunas = colunasDaLista(),
+      .sSelecao = lado.faturas.sSelecao,
+      .sOrdem = " ORDER BY lNumeroFatura ",
+      .sBusca = lado.faturas.sBusca,
+      .iColunasImpressao = 130,
+      .buscas = buscas,
+      .titulos = MenuTitulos::Descricao{lado.titulos.sNome, lado.sTitulos + "." + lado.sLigacao},
+  });
+  vMontarFormulario();
+}
+
+std::vector<ColunaLista> TelaFaturas::colunasDaLista() {
+  std::vector<ColunaLista> colunas{{"Nº da fatura", 1300, Align::right, "lNumeroFatura", txtNumeroFatura},
+                                   {"Emissão", 1250, Align::centre, "Emissao", dtEmissao},
+                                   {"Total da fatura", 1600, Align::right, "TotalFatura", txtTotal},
+                                   {"Entrada", 1400, Align::right, "TotalEntrada", txtEntrada}};
+  vJuntar(colunas, entidades.colunasPessoa(lado_));
+  vJuntar(colunas,
+          {{"Código interno da condição de pagamento", 0, Align::left, "lCondicoesPagamento", condicao.lCodigo},
+           {"Código Cond. Pag.", 1800, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
+           {"Nº de parcelas", 1500, Align::right, "iNumeroParcelas", txtNumeroParcelas},
+           {"Intervalo de venc.", 1700, Align::right, "iIntervalo", txtIntervalo},
+           {"Com entrada", 1300, Align::centre, "ComEntrada", chkEntrada}});
+  vJuntar(colunas, entidades.colunasPortador());
+  vJuntar(colunas, entidades.colunasVendedor());
+  vJuntar(colunas, entidades.colunasCentroCusto());
+  return colunas;
+}
+
+void TelaFaturas::vMontarFormulario() {
+  std::vector<LayoutNode> ultima{entidades.portador.campo(8)};
+  if (entidades.vendedor) ultima.push_back(entidades.vendedor->campo(8));
+  ultima.push_back(entidades.centroCusto.campo(cresce));
+  vMontarTela({linha({campo("Nº da &fatura", txtNumeroFatura, 4), campo("&Emissão", dtEmissao, 4),
+                      campo("&Total da fatura", txtTotal, 4), campo("E&ntrada", txtEntrada, 4),
+                      entidades.pessoa.campo(cresce)}),
+               quadro("Condição de pagamento",
+                      {linha({condicao.campoPrincipal("Código", 6), campo("Nº de parcelas", txtNumeroParcelas, 5),
+                              campo("Intervalo de venc.", txtIntervalo, 5), solto(chkEntrada)})}),
+               linha(std::move(ultima))});
+  setPreferredSize(24, 36);
+}
+
+void TelaFaturas::vSetCondicaoPagamento(std::int32_t lChave, std::int32_t btCodigoInf, std::int32_t iNumeroParcelas,
+                                        std::int32_t iIntervalo, std::int32_t bitEntrada) {
+  condicao.vSet(lChave, std::to_string(btCodigoInf));
+  txtNumeroParcelas.setText(std::to_string(iNumeroParcelas));
+  txtIntervalo.setText(std::to_string(iIntervalo));
+  chkEntrada.setChecked(-bitEntrada == 1);
+}
+
+void TelaFaturas::vSetPortador(std::int32_t lChave, const std::string& sNome) {
+  entidades.portador.busca.vSet(lChave, sNome);
+}
+
+void TelaFaturas::vSetCentroCusto(std::int32_t lChave, const std::string& sDescricao) {
+  entidades.centroCusto.busca.vSet(lChave, sDescricao);
+}
+
+bool TelaFaturas::bVerificarDados() {
+  lCodigoAntes_ = lCodigo;
+  chavesAntes_ = entidades.chaves();
+  return bTestarPreenchimento();
+}
+
+bool TelaFaturas::bTestarPreenchimento() {
+  if (txtNumeroFatura.empty()) return recusar("Informe o número da fatura.", txtNumeroFatura);
+  if (txtTotal.value() <= Currency()) return recusar("Informe o valor total.", txtTotal);
+  if (const Currency fPago = gerador_.fGetValorPago(lCodigo); txtTotal.value() < fPago) {
+    avisar("O valor informado para a fatura (" + sReais(txtTotal.value()) +
+           ") é inferior ao valor dos títulos já pagos (" + sReais(fPago) + ")." + std::string(lineBreak) +
+           "Informe outro valor.");
+    return false;
+  }
+  if (txtEntrada.value() < Currency()) return recusar("Informe o valor da entrada.", txtEntrada);
+  if (txtEntrada.value() > txtTotal.value())
+    return recusar(
+        "O valor da entrada é superior ao total da fatura." + std::string(lineBreak) + "Verifique os valores.",
+        txtTotal);
+  if (entidades.pessoa.busca.lCodigo == -1)
+    return recusar(entidades.pessoa.descricao().sInforme, entidades.pessoa.caixa);
+  if (condicao.lCodigo == -1) return recusar("Informe a condição de pagamento.", txtCondPagCodigoInf);
+  if (!bTestarEntrada()) return false;
+  for (CampoEntidade* entidade : entidades.obrigatoriasDepoisDaPessoa())
+    if (entidade->busca.lCodigo == -1) return recusar(entidade->descricao().sInforme, entidade->caixa);
+  entidades.vCompletarCentroCusto();
+  return true;
+}
+
+bool TelaFaturas::bTestarEntrada() {
+  const bool bValor = txtEntrada.value() != Currency();
+  if (!chkEntrada.checked() && bValor)
+    return recusar(
+        "A condição de pagamento selecionada não tem entrada, porém um valor foi informado no campo Entrada (" +
+            sReais(txtEntrada.value()) + ")." + std::string(lineBreak) +
+            "Selecione outra condição de pagamento com entrada ou deixe o valor da entrada igual a zero.",
+        txtEntrada);
+  if (chkEntrada.checked() && !bValor)
+    return recusar(
+        "A condição de pagamento selecionada exige um valor para a entrada, porém o valor informado no campo Entrada "
+        "foi zero." +
+            std::string(lineBreak) + "Selecione outra condição de pagamento sem entrada ou informe o valor da entrada.",
+        txtEntrada);
+  return true;
+}
+
+bool TelaFaturas::bGravar() {
+  transacao_.vIniciar(conexao());
+  if (!bTestarTrocaDeCondicao()) {
+    avisar("A operação foi cancelada.");
+    vDesfazer();
+    return false;
+  }
+  vGravarFatura();
+  vGravarTitulos();
+  // The titles are shown before the commit: what is changed there stands or falls with the invoice.
+  if (perguntar("Deseja visualizar os títulos relacionados à essa fatura?")) vMostrarTitulos();
+  transacao_.vConfirmar();
+  return true;
+}
+
+void TelaFaturas::vDesfazer() {
+  if (!transacao_.bDesfazer()) return;
+  lCodigo = lCodigoAntes_;
+  entidades.vRestaurarChaves(chavesAntes_);
+}
+
+bool TelaFaturas::bTestarTrocaDeCondicao() {
+  if (lCodigo <= 0 || titulos_.bVerificarCondicaoPagamento(condicao.lCodigo, lado_.sFaturas, lCodigo)) return true;
+  const std::string sQuebra(lineBreak);
+  if (!perguntar("A condição de pagamento informada é diferente da que a fatura apresenta." + sQuebra +
+                 "Alterar a condição de pagamento fará com que todos os títulos desta fatura sejam excluídos" +
+                 sQuebra + "e criados novamente, atendendo as especificações da nova condição de pagamento." + sQuebra +
+                 sQuebra + "Deseja continuar?"))
+    return false;
+  vExecutar("DELETE * FROM " + lado_.sTitulos + " WHERE " + lado_.sLigacao + " = " + std::to_string(lCodigo));
+  return true;
+}
+
+void TelaFaturas::vGravarFatura() {
+  const std::pair<std::string, std::string> emissao{"dtEmissao", Ligacao(dtEmissao).sLiteral()};
+  ValoresSQL valores{{"lNumeroFatura", Ligacao(txtNumeroFatura).sLiteral()},
+                     {"fTotal", Ligacao(txtTotal).sLiteral()},
+                     {"fEntrada", Ligacao(txtEntrada).sLiteral()}};
+  for (auto& valor : entidades.valores(condicao.lCodigo)) valores.push_back(std::move(valor));
+  const bool bAlterar = lCodigo >= 0;
+  valores.insert(bAlterar ? valores.begin() + 1 : valores.end(), emissao);
+  vExecutar(bAlterar ? sComandoAlteracao(lado_.sFaturas, valores, lCodigo) : sComandoInclusao(lado_.sFaturas, valores));
+}
+
+void TelaFaturas::vGravarTitulos() {
+  if (txtTotal.value() <= gerador_.fGetValorPago(lCodigo)) return;
+  if (titulos_.btGetOpcaoReparcelamento() != 0) {
+    gerador_.vReajustarTitulosFatura(lCodigo, serie());
+  } else {
+    gerador_.vCriarTitulosFatura(lCodigo, serie());
+  }
+}
+
+DadosSerie TelaFaturas::serie() {
+  if (readInt32(txtNumeroParcelas.text()) == 0) txtNumeroParcelas.setText("1");
+  return {.dtEmissao = dtEmissao.value(),
+          .fTotal = txtTotal.value(),
+          .fEntrada = txtEntrada.value(),
+          .iNumeroParcelas = toInt16(readInt32(txtNumeroParcelas.text())),
+          .iIntervalo = toInt16(readInt32(txtIntervalo.text())),
+          .bEntrada = chkEntrada.checked()};
+}
+
+void TelaFaturas::vMostrarTitulos() {
+  auto& tela = contexto().telas().obter<TelaTitulos>(lado_.titulos.sNome);
+  tela.vSetFaturaPreview(lCodigo);
+  tela.vMontarLista(0, "WHERE " + lado_.sTitulos + "." + lado_.sLigacao + " = " + std::to_string(lCodigo) + " ");
+  vMostrarFormModal(lado_.titulos.sNome);
+  tela.vSetFaturaPreview(0);
+}
+
+}  // namespace fenvale

@@ -1,0 +1,23 @@
+#pragma once
+// The titles that customers owe.
+
+#include "titles/screens/TelaTitulosCadastro.h"
+
+namespace fenvale {
+
+class frmCadastroTitulosReceber final : public TelaTitulosCadastro, public ReceptorCliente, public ReceptorVendedor {
+ public:
+  explicit frmCadastroTitulosReceber(Contexto& contexto);
+
+  LookupBox& txtCliente{entidades.pessoa.caixa};
+  LookupBox& txtPortador{entidades.portador.caixa};
+  LookupBox& txtVendedor{entidades.vendedor->caixa};
+  LookupBox& txtCentroCusto{entidades.centroCusto.caixa};
+
+  void vSetCliente(std::int32_t lChave, const std::string& sNome) override;
+  void vSetVendedor(std::int32_t lChave, const std::string& sNome) override;
+  /// Loads a title from a row of this screen's list or of a search.
+  void vSetTituloReceberBaixa(const ListItem& item) { vSetTituloBaixa(item); }
+};
+
+}  // namespace fenvale

@@ -1,0 +1,50 @@
+#pragma once
+// The two sides of the ledger. Receivables and payables are one code; what differs between them stands here and nowhere
+// else: tables and columns, words, the names of screens and controls, and three things that only one side has.
+
+#include <cstdint>
+#include <string>
+
+namespace fenvale {
+
+/// The words and neighbours of one of a side's two screens.
+struct TelaDoLado {
+  std::string sNome;        ///< "frmCadastroTitulosReceber"
+  std::string sLegenda;     ///< window caption
+  std::string sTitulo;      ///< the line in the band, and the title of the printed list
+  std::string sBusca;       ///< search behind F6
+  std::string sBuscaBaixa;  ///< search for settlement behind F7; the invoice screens have none
+  std::string sSelecao;     ///< the list's statement up to where a clause begins
+};
+
+class Titulos;
+
+struct Lado {
+  std::string sTitulos;      ///< "TitulosReceber"
+  std::string sFaturas;      ///< "FaturasCliente"
+  std::string sLigacao;      ///< column of a title that names its invoice: "lFaturaCliente"
+  std::string sChavePessoa;  ///< column of an invoice that names customer or supplier: "lCliente"
+
+  /// The invoice of the title with a code.
+  std::int32_t (Titulos::*lGetCodigoFatura)(const std::string& sCodigoInf);
+
+  bool bVendedor;  ///< an invoice has a salesperson
+  bool bFilial;    ///< a title has a branch
+  bool bJuros;     ///< interest can be worked out
+
+  std::string sPessoa;               ///< "Cliente": in the names of controls, as label and as heading
+  std::string sPessoaMinuscula;      ///< "cliente": within a sentence
+  std::string sInformePessoaFatura;  ///< what the invoice screen says when none was chosen
+  std::string sInformePessoaTitulo;  ///< what the title screen says
+  std::string sOndeMudarTotal;       ///< where the total of an invoice can be changed
+  std::string sCadastroPessoa;       ///< register screen
+  std::string sBuscaPessoa;          ///< quick search
+
+  TelaDoLado faturas;
+  TelaDoLado titulos;
+};
+
+const Lado& ladoReceber();
+const Lado& ladoPagar();
+
+}  // namespace fenvale
