@@ -16,10 +16,14 @@
 #include "store/screens/frmLocalizarCidades.h"
 #include "store/screens/frmMensagem.h"
 #include "store/screens/frmSistema.h"
+#include "titles/screens/frmCadastroFaturasCliente.h"
+#include "titles/screens/frmCadastroTitulosReceber.h"
 
 namespace fenvale {
 
 void vRegistrarTelas(Telas& telas) {
+  telas.registrar<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
+  telas.registrar<frmCadastroTitulosReceber>("frmCadastroTitulosReceber");
   telas.registrar<frmCadastroUsuarios>("frmCadastroUsuarios");
   telas.registrar<frmEmpresa>("frmEmpresa");
   telas.registrar<frmEmpresaAbrir>("frmEmpresaAbrir");
