@@ -3,6 +3,7 @@
 #include "access/screens/frmCadastroUsuarios.h"
 #include "access/screens/frmLocalizarUsuarios.h"
 #include "access/screens/frmLogin.h"
+#include "registers/screens/TelasDosCadastros.h"
 #include "shell/screens/frmLocalizarBD.h"
 #include "shell/screens/frmMDIPrincipal.h"
 #include "shell/screens/frmSobreApp.h"
@@ -39,6 +40,7 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");
+  vRegistrarTelasDosCadastros(telas);
 }
 
 }  // namespace fenvale

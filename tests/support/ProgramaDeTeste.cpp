@@ -13,6 +13,7 @@
 #include "shell/services/Telas.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"
+#include "support/Rodada.h"
 
 namespace fenvale {
 namespace {
@@ -121,10 +122,14 @@ ProgramaDeTeste::ProgramaDeTeste(void (*registrar)(Telas&))
                 impressorasDoTeste},
                registrar) {
   if (!telas().bExiste("frmMDIPrincipal")) telas().registrar<JanelaDeTeste>("frmMDIPrincipal");
+  vInstalarEm(pasta());
+}
+
+void vInstalarEm(const PastaTemporaria& pasta) {
   for (const char* roteiro : {"SQL.xmlSQL", "SQLEmpresas.xmlSQL"})
-    if (fs::exists(pastaDeDados + roteiro)) fs::copy(pastaDeDados + roteiro, pasta().arquivo(roteiro));
-  pasta().gravar("Cidades.XML", cidadesPequenas);
-  pasta().gravar("Bancos.XML", bancosPequenos);
+    if (fs::exists(pastaDeDados + roteiro)) fs::copy(pastaDeDados + roteiro, pasta.arquivo(roteiro));
+  pasta.gravar("Cidades.XML", cidadesPequenas);
+  pasta.gravar("Bancos.XML", bancosPequenos);
 }
 
 JanelaDeTeste& ProgramaDeTeste::janelaDeTeste() { return telas().obter<JanelaDeTeste>("frmMDIPrincipal"); }
