@@ -25,6 +25,7 @@ namespace fenvale {
 void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
   telas.registrar<frmCadastroTitulosReceber>("frmCadastroTitulosReceber");
+  vRegistrarTelasDosCadastros(telas);
   telas.registrar<frmCadastroUsuarios>("frmCadastroUsuarios");
   telas.registrar<frmEmpresa>("frmEmpresa");
   telas.registrar<frmEmpresaAbrir>("frmEmpresaAbrir");
