@@ -1,0 +1,74 @@
+#include "Consultas.h"
+
+namespace fenvale::bancada {
+namespace {
+
+constexpr const char* titulosNoPrograma =
+    "SELECT lCentroCusto, (CentroCusto.sDescricao) AS CentroCusto, TitulosReceber.lCodigo, sCodigoInf, "
+    "FORMAT(dtVencimento, 'dd/mm/yyyy') AS Vencimento, FORMAT(fValor, '#,##0.00') AS ValorTitulo, "
+    "IIF(fValorPago > 0, FORMAT(dtPagamento, 'dd/mm/yyyy'), '') AS Pagamento, FORMAT(fValorPago, '#,##0.00') AS "
+    "ValorPago, FORMAT(fJuros, '#,##0.00') AS Juros, FORMAT(fDesconto, '#,##0.00') AS Desconto, lNF, sObs, "
+    "IIF(fValorPago <= 0, 'Não', 'Sim') AS Pago, FORMAT(dtEmissao, 'dd/mm/yyyy') AS Emissao, FORMAT(fTotal, "
+    "'#,##0.00') AS ValorFatura, lCliente, (Clientes.sNome) AS Cliente, lPortador, (Portadores.sNome) AS Portador, "
+    "FaturasCliente.lVendedor, (Vendedores.sNome) AS Vendedores FROM ((((TitulosReceber INNER JOIN FaturasCliente ON "
+    "FaturasCliente.lCodigo = TitulosReceber.lFaturaCliente) INNER JOIN Clientes ON FaturasCliente.lCliente = "
+    "Clientes.lCodigo) INNER JOIN Portadores ON FaturasCliente.lPortador = Portadores.lCodigo) INNER JOIN Vendedores "
+    "ON FaturasCliente.lVendedor = Vendedores.lCodigo) INNER JOIN CentroCusto ON FaturasCliente.lCentroCusto = "
+    "CentroCusto.lCodigo ";
+
+/// Both lists of titles show the same columns.
+Consulta titulos(const std::string& sClausula) {
+  Consulta consulta;
+  consulta.sPrograma = titulosNoPrograma + sClausula + " ORDER BY sCodigoInf ";
+  consulta.sContagem = "SELECT COUNT(*) FROM TitulosReceber " + sClausula;
+  consulta.sChaves = "SELECT lCodigo FROM TitulosReceber " + sClausula + " ORDER BY sCodigoInf LIMIT ?1 OFFSET ?2";
+  consulta.sLinha =
+      "SELECT f.lCentroCusto, cc.sDescricao, t.lCodigo, t.sCodigoInf, t.dtVencimento, t.fValor, "
+      "CASE WHEN t.fValorPago > 0 THEN t.dtPagamento END, t.fValorPago, t.fJuros, t.fDesconto, t.lNF, t.sObs, "
+      "CASE WHEN t.fValorPago <= 0 THEN 'Não' ELSE 'Sim' END, f.dtEmissao, f.fTotal, f.lCliente, c.sNome, "
+      "f.lPortador, p.sNome, f.lVendedor, v.sNome FROM TitulosReceber t JOIN FaturasCliente f ON f.lCodigo = "
+      "t.lFaturaCliente JOIN Clientes c ON c.lCodigo = f.lCliente JOIN Portadores p ON p.lCodigo = f.lPortador JOIN "
+      "Vendedores v ON v.lCodigo = f.lVendedor JOIN CentroCusto cc ON cc.lCodigo = f.lCentroCusto WHERE t.lCodigo = "
+      "?1";
+  consulta.sFormas = "ttttdmdmmmtttdmtttttt";
+  return consulta;
+}
+
+}  // namespace
+
+Consulta consultaClientes() {
+  Consulta consulta;
+  consulta.sPrograma =
+      "SELECT Clientes.lCodigo, Clientes.lCodigoInf, Clientes.sNome, FORMAT(fLimiteCredito, '#,##0.00') AS "
+      "LimiteCredito, sEndereco, sBairro, sCEP, sTelefone, sFax, sContato, sRG, sCPF, sIE, sCNPJ, sPai, sMae, sEmail, "
+      "FORMAT(dtNascimento, 'dd/mm/yyyy') AS Nascimento, sHomePage, txtObs, sEnderecoEntrega, sBairroEntrega, "
+      "sCEPEntrega, sEnderecoCobranca, sBairroCobranca, sCEPCobranca, lCategoria, (Categorias.btCodigoInf) AS "
+      "Categoria, lCidade, (SELECT Cidades.sNome FROM Cidades WHERE lCidade = Cidades.lCodigo) AS Cidade, (SELECT "
+      "Cidades.sUF FROM Cidades WHERE lCidade = Cidades.lCodigo) AS UF, lVendedor, (Vendedores.sNome) AS Vendedor, "
+      "lCidadeEntrega, (SELECT Cidades.sNome FROM Cidades WHERE lCidadeEntrega = Cidades.lCodigo) AS CidEntrega, "
+      "(SELECT Cidades.sUF FROM Cidades WHERE lCidadeEntrega = Cidades.lCodigo) AS UFEntrega, lCidadeCobranca, (SELECT "
+      "Cidades.sNome FROM Cidades WHERE lCidadeCobranca = Cidades.lCodigo) AS CidCobranca, (SELECT Cidades.sUF FROM "
+      "Cidades WHERE lCidadeCobranca = Cidades.lCodigo) AS UFCobranca FROM (Clientes INNER JOIN Categorias ON "
+      "Clientes.lCategoria = Categorias.lCodigo) INNER JOIN Vendedores ON Clientes.lVendedor = Vendedores.lCodigo "
+      "ORDER BY Clientes.lCodigoInf, Clientes.sNome ";
+  consulta.sContagem = "SELECT COUNT(*) FROM Clientes";
+  // The code is unique: the name behind it decides nothing.
+  consulta.sChaves = "SELECT lCodigo FROM Clientes ORDER BY lCodigoInf LIMIT ?1 OFFSET ?2";
+  consulta.sLinha =
+      "SELECT c.lCodigo, c.lCodigoInf, c.sNome, c.fLimiteCredito, c.sEndereco, c.sBairro, c.sCEP, c.sTelefone, "
+      "c.sFax, c.sContato, c.sRG, c.sCPF, c.sIE, c.sCNPJ, c.sPai, c.sMae, c.sEmail, c.dtNascimento, c.sHomePage, "
+      "c.txtObs, c.sEnderecoEntrega, c.sBairroEntrega, c.sCEPEntrega, c.sEnderecoCobranca, c.sBairroCobranca, "
+      "c.sCEPCobranca, c.lCategoria, k.btCodigoInf, c.lCidade, m.sNome, m.sUF, c.lVendedor, v.sNome, "
+      "c.lCidadeEntrega, e.sNome, e.sUF, c.lCidadeCobranca, b.sNome, b.sUF FROM Clientes c JOIN Categorias k ON "
+      "k.lCodigo = c.lCategoria JOIN Vendedores v ON v.lCodigo = c.lVendedor JOIN Cidades m ON m.lCodigo = c.lCidade "
+      "JOIN Cidades e ON e.lCodigo = c.lCidadeEntrega JOIN Cidades b ON b.lCodigo = c.lCidadeCobranca WHERE c.lCodigo "
+      "= ?1";
+  consulta.sFormas = "tttmtttttttttttttdttttttttttttttttttttt";
+  return consulta;
+}
+
+Consulta consultaTitulosAbertos() { return titulos("WHERE (fValorPago <= 0) "); }
+
+Consulta consultaTitulos() { return titulos(""); }
+
+}  // namespace fenvale::bancada

@@ -1,0 +1,24 @@
+#pragma once
+// The statements of two lists as their screens write them, and the same rows asked of SQLite by hand: the page's keys
+// first, then each row by its key, and no join that brings no column.
+
+#include <string>
+
+namespace fenvale::bancada {
+
+struct Consulta {
+  std::string sPrograma;  ///< in the program's dialect
+  std::string sContagem;  ///< by hand: how many rows
+  std::string sChaves;    ///< by hand: ?1 keys from the row ?2 on, counted from 0
+  std::string sLinha;     ///< by hand: the row of the key ?1
+  /// What a program makes of each column of sLinha to show it: "t" takes it as it is, "m" is money, "d" a date.
+  std::string sFormas;
+};
+
+Consulta consultaClientes();
+/// With the clause that the screen of titles opens with: unpaid ones.
+Consulta consultaTitulosAbertos();
+/// All titles, paid and unpaid.
+Consulta consultaTitulos();
+
+}  // namespace fenvale::bancada
