@@ -6,14 +6,13 @@
 #include <random>
 
 #include "platform/base/Error.h"
+#include "titles/Cenario.h"
 
 namespace fenvale {
 namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-Currency reais(std::string_view texto) { return Currency::fromBrazilian(texto); }
 
 Currency soma(const std::vector<Currency>& partes) { return std::accumulate(partes.begin(), partes.end(), Currency()); }
 
