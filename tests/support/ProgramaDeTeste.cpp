@@ -57,6 +57,7 @@ class Modelos {
     conexao.open();
     const XmlDocument documento = XmlDocument::load(pastaDeDados + roteiro);
     if (!documento.sound()) throw std::runtime_error(roteiro + ": " + documento.parseError().reason);
+    conexao.beginTrans();  // one write to the disk instead of one for each statement
     for (const XmlElement& elemento : documento.elements("SQL"))
       if (elemento.children.size() == 1) Recordset(elemento.children.front(), conexao);
     Recordset("INSERT INTO Cidades (sNome, sUF) VALUES ('Londrina', 'PR')", conexao);
@@ -65,6 +66,7 @@ class Modelos {
       Recordset("INSERT INTO Bancos (sNome, iCodigoInf) VALUES ('Banco do Brasil S.A.', '001')", conexao);
       Recordset("INSERT INTO Bancos (sNome, iCodigoInf) VALUES ('Caixa Econômica Federal', '104')", conexao);
     }
+    conexao.commitTrans();
     conexao.close();
   }
 
