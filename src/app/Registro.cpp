@@ -41,7 +41,6 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");
-  vRegistrarTelasDosCadastros(telas);
 }
 
 }  // namespace fenvale

@@ -41,9 +41,12 @@ const std::vector<Library>& libraries() {
   static const auto below = [](std::string_view prefix) {
     return [prefix](std::string_view header) { return header.starts_with(prefix); };
   };
+  // The composition starts the toolkit's application, too.
   static const std::vector<Library> all{
-      {"Qt", isQt, {"platform/ui/qt", "platform/report/qt"}}, {"SQLite", below("sqlite3"), {"platform/sql"}},
-      {"libxml2", below("libxml"), {"platform/xml"}},         {"libcurl", below("curl/"), {"platform/mail"}},
+      {"Qt", isQt, {"platform/ui/qt", "platform/report/qt", "app"}},
+      {"SQLite", below("sqlite3"), {"platform/sql"}},
+      {"libxml2", below("libxml"), {"platform/xml"}},
+      {"libcurl", below("curl/"), {"platform/mail"}},
       {"CUPS", below("cups/"), {"platform/print/cups"}},
   };
   return all;

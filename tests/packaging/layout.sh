@@ -25,7 +25,7 @@ holds() {
     failed=1
   fi
 }
-for file in Cidades.XML Bancos.XML icones/novo.svg \
+for file in SQL.xmlSQL SQLEmpresas.xmlSQL Cidades.XML Bancos.XML icones/novo.svg \
   FiguraFundo800x600.gif FiguraFundo1024x768.gif FiguraFundo1280x1024.gif; do
   holds "$data/$file"
 done
