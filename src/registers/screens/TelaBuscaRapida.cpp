@@ -40,7 +40,7 @@ DescricaoBuscaRapida porNome(std::string sNome, std::string sLegenda, std::strin
           sTexto,
           bLinhaPadrao,
           {{"Código", 1000, Align::right, sCodigo},
-           {sTexto == "sDescricao" ? "Descrição" : "Nome", 4600, Align::left, sTexto}},
+           {sTexto == "sDescricao" ? "Descrição" : "Nome", 8500, Align::left, sTexto}},
           "lCodigo, " + sCodigo + ", " + sTexto,
           entregar(vSet, sTexto)};
 }
@@ -66,9 +66,9 @@ const std::vector<DescricaoBuscaRapida>& buscasRapidas() {
        "",
        false,
        {{"Código", 1000, Align::right, "btCodigoInf"},
-        {"Número de parcelas", 2200, Align::right, "iNumeroParcelas"},
-        {"Intervalo de vecimento", 2400, Align::right, "iIntervalo"},
-        {"Com entrada", 1500, Align::centre, "ComEntrada"}},
+        {"Número de parcelas", 2800, Align::right, "iNumeroParcelas"},
+        {"Intervalo de vecimento", 3000, Align::right, "iIntervalo"},
+        {"Com entrada", 2400, Align::centre, "ComEntrada"}},
        "lCodigo, btCodigoInf, iNumeroParcelas, iIntervalo, IIF(bitEntrada = 0, 'Não', 'Sim') AS ComEntrada",
        vEntregarCondicao},
   };

@@ -60,7 +60,7 @@ void frmLocalizarClientes::vMontarFormulario() {
                            linha({campo("&Endereço", txtEndereco, cresce), campo("&Bairro", txtBairro, 5),
                                   cidade.campoNome(6), cidade.campoUF(2)}),
                            linha({campo("CEP", txtCEP, 3), campo("&Telefone", txtTelefone, 4), campo("Fax", txtFax, 4),
-                                  campo("C&ontato", txtContato, cresce), vendedor.campoPrincipal("Vendedor", 6)}),
+                                  campo("C&ontato", txtContato, cresce), vendedor.campoPrincipal("Vendedor", 7)}),
                            linha({campo("&RG", txtRG, 4), campo("C&PF", txtCPF, 4), campo("&IE", txtIE, 4),
                                   campo("CNP&J", txtCNPJ, cresce)}),
                            linha({solto(chkNascimento, 4), campo("De", dtNascimentoInicial, 4),
