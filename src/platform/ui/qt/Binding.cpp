@@ -17,8 +17,14 @@ Binding::Binding(QtHost& host, Control& control, QWidget& widget)
 Binding::~Binding() { release(); }
 
 void Binding::release() {
-  if (control_ != nullptr) control_->detach(*this);
+  if (control_ == nullptr) return;
+  control_->detach(*this);
+  controlGone();
+}
+
+void Binding::controlGone() {
   control_ = nullptr;
+  letGo();
 }
 
 void Binding::setShell(QWidget& shell) {

@@ -32,7 +32,7 @@ class Binding : public QObject, public ControlView {
   virtual void focusGiven() {}
 
   void controlChanged(Aspect aspect) final;
-  void controlGone() final { control_ = nullptr; }
+  void controlGone() final;
   bool eventFilter(QObject* watched, QEvent* event) override;
 
  protected:
@@ -40,6 +40,8 @@ class Binding : public QObject, public ControlView {
   virtual void refresh(Aspect aspect) = 0;
   /// Shows the control for the first time; to be called at the end of the constructor of each kind.
   void refreshAll();
+  /// The control is out of reach from now on: nothing of it may be shown any more.
+  virtual void letGo() {}
   /// Runs a call into the control, if it is still there.
   void enter(const std::function<void()>& call);
   QtHost& host() const { return host_; }

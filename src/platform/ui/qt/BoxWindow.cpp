@@ -116,6 +116,7 @@ void BoxWindow::give(BoxAnswer answer) {
 
 void BoxWindow::showEvent(QShowEvent* event) {
   QWidget::showEvent(event);
+  resize(layout()->totalMinimumSize().expandedTo(layout()->totalSizeHint()));
   if (QWidget* const below = parentWidget(); below != nullptr && below->isVisible()) {
     QRect place(QPoint(), frameSize());
     place.moveCenter(below->window()->frameGeometry().center());

@@ -1,6 +1,7 @@
 // What is pressed or ticked, and what only shows.
 
 #include "platform/ui/Choices.h"
+#include "platform/ui/Screen.h"
 #include "platform/ui/qt/Binding.h"
 #include "platform/ui/qt/KeyMap.h"
 #include "platform/ui/qt/QtHost.h"
@@ -22,11 +23,10 @@ class CommandButton final : public QPushButton {
   }
 
   QSize sizeHint() const override {
-    QSize size = QPushButton::sizeHint();
-    if (!square_) size.setWidth(contentWidth() + 26);
-    return size;
+    if (square_) return {measures::boxHeight, measures::boxHeight};
+    return {contentWidth() + 26, QPushButton::sizeHint().height()};
   }
-  QSize minimumSizeHint() const override { return square_ ? QPushButton::minimumSizeHint() : sizeHint(); }
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void paintEvent(QPaintEvent*) override {
@@ -127,6 +127,24 @@ class MarkBinding final : public BindingOf<Kind, Widget> {
   bool (Kind::*state_)() const;
 };
 
+/// Lines that break where their place ends. Its height follows its width by itself, so that no layout around it has to
+/// weigh heights against widths.
+class HelpLabel final : public QLabel {
+ public:
+  bool hasHeightForWidth() const override { return false; }
+  QSize sizeHint() const override { return {measures::unit * 4, minimumHeight()}; }
+  QSize minimumSizeHint() const override { return {measures::unit * 3, minimumHeight()}; }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLabel::resizeEvent(event);
+    fit();
+  }
+
+ private:
+  void fit() { setMinimumHeight(std::max(QLabel::heightForWidth(width()), measures::textLine)); }
+};
+
 class LabelBinding final : public BindingOf<Label, QLabel> {
  public:
   LabelBinding(QtHost& host, Label& control, QLabel& label) : BindingOf(host, control, label) { refreshAll(); }
@@ -137,6 +155,8 @@ class LabelBinding final : public BindingOf<Label, QLabel> {
     QString text = withoutAccessKey(control().caption());
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
     view().setText(text);
+    if (view().wordWrap()) view().setMinimumHeight(std::max(view().heightForWidth(view().width()), measures::textLine));
+    if (view().property("role") == "hint") view().setVisible(control().visible() && !text.isEmpty());
   }
 };
 
@@ -202,21 +222,25 @@ Binding& render(OptionButton& control, QtHost& host) {
 }
 
 Binding& render(Label& control, QtHost& host) {
-  auto* const label = new QLabel;
+  const bool wraps = control.style() == Label::Style::help;
+  auto* const label = wraps ? new HelpLabel : new QLabel;
   label->setTextFormat(Qt::PlainText);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   label->setFocusPolicy(Qt::NoFocus);
   label->setMinimumHeight(measures::textLine);
+  label->setWordWrap(wraps);
+  const bool splash = control.screen().style() == ScreenStyle::splash;
+  const bool overPicture = control.screen().style() == ScreenStyle::mainWindow;
   switch (control.style()) {
     case Label::Style::title:
-      label->setFont(host.theme().titleFont());
+      label->setFont(splash ? host.theme().displayFont() : host.theme().titleFont());
+      if (splash) label->setProperty("role", "display");
       break;
     case Label::Style::muted:
-      label->setProperty("role", "muted");
+      label->setProperty("role", overPicture ? "hint" : "muted");
       break;
     case Label::Style::help:
-      label->setProperty("role", "muted");
-      label->setWordWrap(true);
+      label->setProperty("role", overPicture ? "hint" : "muted");
       break;
     case Label::Style::link:
       label->setProperty("role", "link");

@@ -93,6 +93,13 @@ class ManyLinesBinding final : public BindingOf<TextBox, QPlainTextEdit> {
   bool showing_ = false;
 };
 
+/// Four lines, where the layout does not give it more.
+class LinesEdit final : public QPlainTextEdit {
+ public:
+  QSize sizeHint() const override { return {240, 4 * fontMetrics().lineSpacing() + 16}; }
+  QSize minimumSizeHint() const override { return {80, sizeHint().height()}; }
+};
+
 int widthOf(const QLineEdit& edit, QChar letter, int count) {
   return edit.fontMetrics().horizontalAdvance(letter) * count + 22;
 }
@@ -108,9 +115,9 @@ QLineEdit* newEdit(Qt::Alignment alignment, int leastCharacters) {
 
 Binding& render(TextBox& control, QtHost& host) {
   if (control.style() == TextBox::Style::multiLine) {
-    auto* const lines = new QPlainTextEdit;
+    auto* const lines = new LinesEdit;
     lines->setTabChangesFocus(true);
-    lines->setMinimumHeight(3 * measures::textLine);
+    lines->setSizePolicy(QSizePolicy::Expanding, QSizePolicy::Fixed);
     return *new ManyLinesBinding(host, control, *lines);
   }
   QLineEdit* const edit = newEdit(Qt::AlignLeft, 3);

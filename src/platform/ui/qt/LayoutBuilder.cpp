@@ -1,6 +1,7 @@
 #include "platform/ui/qt/LayoutBuilder.h"
 
 #include "platform/ui/Choices.h"
+#include "platform/ui/Screen.h"
 #include "platform/ui/qt/Binding.h"
 #include "platform/ui/qt/QtHost.h"
 #include "platform/ui/qt/Render.h"
@@ -64,14 +65,20 @@ bool fillsHeight(const LayoutNode& node) {
 
 }  // namespace
 
-void LayoutBuilder::fill(QWidget& body, const LayoutNode& root, int units) {
+void LayoutBuilder::fill(QWidget& body, const Screen& screen) {
+  const LayoutNode& root = screen.layout();
+  const int units = screen.preferredWidth();
   built_.units = units > 0 ? std::min(units, measures::columns) : std::max(unitsOf(root), 1);
   built_.grows = fillsHeight(root);
   QVBoxLayout* const column = plainColumn();
-  column->setContentsMargins(measures::margin, measures::margin, measures::margin, measures::margin);
+  const bool dialog = screen.style() == ScreenStyle::dialog;
+  const int margin = dialog ? measures::margin : 2 * measures::margin;
+  column->setContentsMargins(margin, margin, margin, margin);
   body.setLayout(column);
+  // A splash shows its lines in its middle; what the main window has to say stands at the foot of its picture.
+  if (!dialog) column->addStretch(1);
   addChildren(*column, root.children, built_.units);
-  if (!built_.grows) column->addStretch(1);
+  if (!built_.grows && screen.style() != ScreenStyle::mainWindow) column->addStretch(1);
 }
 
 void LayoutBuilder::addChildren(QVBoxLayout& column, const std::vector<LayoutNode>& children, int units) {
@@ -137,7 +144,11 @@ QLayout* LayoutBuilder::row(const LayoutNode& node, int units) {
         line->add(*field(child), child.width, Placement::top);
         break;
       case Kind::bare:
-        if (QWidget* const widget = bare(*child.control)) line->add(*widget, child.width, Placement::bottom);
+        if (QWidget* const widget = bare(*child.control)) {
+          line->add(*widget, child.width, Placement::bottom);
+          // A note over a picture is no wider than its text.
+          if (widget->property("role") == "hint") line->itemAt(line->count() - 1)->setAlignment(Qt::AlignLeft);
+        }
         break;
       case Kind::frame:
         line->add(*frame(child, inner), child.width, Placement::full);

@@ -14,6 +14,10 @@ class QTabWidget;
 class QVBoxLayout;
 class QWidget;
 
+namespace fenvale {
+class Screen;
+}
+
 namespace fenvale::qt {
 
 class Binding;
@@ -37,8 +41,8 @@ class LayoutBuilder {
  public:
   LayoutBuilder(QtHost& host, BuiltLayout& built) : host_(host), built_(built) {}
 
-  /// `units` 0: as many columns as the widest row takes.
-  void fill(QWidget& body, const LayoutNode& root, int units);
+  /// The columns are those of the size that the screen would like to have, else as many as its widest row takes.
+  void fill(QWidget& body, const Screen& screen);
   /// The buttons of the foot.
   void fillFoot(QHBoxLayout& foot, const LayoutNode& node);
 

@@ -33,7 +33,6 @@ class RowDelegate final : public QStyledItemDelegate {
     const Theme& theme = host_.theme();
     const bool enabled = (option.state & QStyle::State_Enabled) != 0;
     painter->save();
-    if ((option.state & QStyle::State_Selected) != 0) painter->fillRect(option.rect, theme.tokens().cursor);
     QRectF place = QRectF(option.rect).adjusted(cellMargin, 0, -cellMargin, 0);
     const QVariant tick = index.data(Qt::CheckStateRole);
     if (tick.isValid()) {
@@ -79,6 +78,12 @@ class Headings final : public QHeaderView {
   bool ascending = true;
 
  protected:
+  void paintEvent(QPaintEvent* event) override {
+    QHeaderView::paintEvent(event);
+    QPainter painter(viewport());
+    painter.setPen(host_.theme().tokens().line);
+    painter.drawLine(0, height() - 1, width(), height() - 1);
+  }
   void paintSection(QPainter* painter, const QRect& rect, int section) const override {
     QHeaderView::paintSection(painter, rect, section);
     if (section != sortColumn) return;
@@ -98,7 +103,6 @@ class RowsView final : public QTreeView {
     setRootIsDecorated(false);
     setItemsExpandable(false);
     setUniformRowHeights(true);
-    setAlternatingRowColors(true);
     setAllColumnsShowFocus(true);
     setSelectionMode(QAbstractItemView::SingleSelection);
     setEditTriggers(QAbstractItemView::NoEditTriggers);
@@ -157,6 +161,14 @@ class RowsView final : public QTreeView {
     painter.setFont(host_.theme().baseFont());
     painter.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("Nenhum registro"));
   }
+  /// The ground of a row goes on behind the last column.
+  void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
+    const Tokens& t = host_.theme().tokens();
+    const bool here = selectionModel()->isSelected(index.siblingAtColumn(header()->logicalIndex(0)));
+    const QRect line(0, option.rect.y(), viewport()->width(), option.rect.height());
+    painter->fillRect(line, here ? t.cursor : index.row() % 2 == 1 ? t.alternate : t.base);
+    QTreeView::drawRow(painter, option, index);
+  }
   bool viewportEvent(QEvent* event) override {
     if (event->type() == QEvent::ToolTip) {
       const auto& help = static_cast<QHelpEvent&>(*event);
@@ -198,7 +210,6 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
     refreshAll();
     showRows();
   }
-  ~ListBinding() override { rows_ = nullptr; }
 
   bool eventFilter(QObject* watched, QEvent* event) override {
     // The rows that were added since the last turn must be there before a key acts on them.
@@ -214,6 +225,10 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
   }
 
  protected:
+  void letGo() override {
+    later_->stop();
+    rows_->release();
+  }
   void refresh(Aspect aspect) override {
     switch (aspect) {
       case Aspect::columns:
@@ -274,7 +289,7 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
     view().header()->viewport()->update();
   }
   void showRows() {
-    if (rows_ == nullptr || anyControl() == nullptr) return;
+    if (anyControl() == nullptr) return;
     later_->stop();
     Headings& headings = view().headings();
     if (headings.sortColumn != control().sortColumn() || headings.ascending != control().sortAscending()) {

@@ -93,7 +93,6 @@ class StatusBarBinding final : public BindingOf<StatusBar, QWidget> {
       label->setTextInteractionFlags(Qt::TextSelectableByMouse);
       label->setFocusPolicy(Qt::NoFocus);
       label->setProperty("role", "muted");
-      label->setSizePolicy(QSizePolicy::Ignored, QSizePolicy::Preferred);
       row.addWidget(label);
       labels_.push_back(label);
     }
@@ -105,15 +104,16 @@ class StatusBarBinding final : public BindingOf<StatusBar, QWidget> {
   void refresh(Aspect) override {
     for (std::size_t place = 0; place < labels_.size(); ++place) {
       const QString text = toQt(control().panels()[place].text);
-      labels_[place]->setText(text);
+      // The end of a path tells more than its middle.
+      const QFontMetrics metrics(host().theme().labelFont());
+      labels_[place]->setText(metrics.elidedText(text, Qt::ElideMiddle, widest));
       labels_[place]->setVisible(!text.isEmpty());
-      labels_[place]->setMinimumWidth(std::min(labels_[place]->sizeHint().width(), widest));
       labels_[place]->setToolTip(text);
     }
   }
 
  private:
-  static constexpr int widest = 420;
+  static constexpr int widest = 360;
   std::vector<QLabel*> labels_;
 };
 

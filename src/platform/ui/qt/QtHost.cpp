@@ -48,6 +48,9 @@ QtHost::QtHost(HostOptions options)
 QtHost::~QtHost() {
   qApp->removeEventFilter(this);
   for (const Shown& shown : shown_) delete shown.window.data();
+  // The style draws by this host's theme.
+  qApp->setStyleSheet({});
+  QApplication::setStyle(QStringLiteral("Fusion"));
 }
 
 void QtHost::applyTheme() {

@@ -97,7 +97,7 @@ void ScreenWindow::addBody(QVBoxLayout& column) {
   scroll_->setHorizontalScrollBarPolicy(Qt::ScrollBarAlwaysOff);
   body_ = new QWidget;
   body_->setObjectName(QStringLiteral("body"));
-  LayoutBuilder(host_, built_).fill(*body_, screen_->layout(), screen_->preferredWidth());
+  LayoutBuilder(host_, built_).fill(*body_, *screen_);
   scroll_->setWidget(body_);
   column.addWidget(scroll_, 1);
 }
@@ -133,17 +133,15 @@ void ScreenWindow::startTimers() {
 QSize ScreenWindow::designedSize() const {
   if (screen_->style() == ScreenStyle::mainWindow && screen_->preferredWidth() == 0) return {1024, 720};
   QSize size = layout()->sizeHint();
-  const QSize content = body_->sizeHint(), least = body_->minimumSizeHint();
+  const QSize least = body_->minimumSizeHint();
   const int wanted = built_.units * measures::unit - measures::gap + 2 * measures::margin;
   size.setWidth(std::max({wanted, least.width(), layout()->minimumSize().width()}));
-  const int inner =
-      body_->layout()->hasHeightForWidth() ? body_->layout()->heightForWidth(size.width()) : content.height();
   int outside = 0;
   for (int place = 0; place < layout()->count(); ++place) {
     const QWidget* const part = layout()->itemAt(place)->widget();
     if (part != nullptr && part != scroll_ && !part->isHidden()) outside += part->sizeHint().height();
   }
-  size.setHeight(std::max(inner, screen_->preferredHeight() * measures::textLine) + outside);
+  size.setHeight(std::max(body_->sizeHint().height(), screen_->preferredHeight() * measures::textLine) + outside);
   return size;
 }
 
@@ -153,7 +151,7 @@ void ScreenWindow::placeWithin(const QRect& available) {
   const int least = std::max(body_->minimumSizeHint().width(), layout()->minimumSize().width());
   setMinimumWidth(std::min(least, widest));
   QSize size = designedSize().boundedTo({widest, tallest});
-  placedSize_ = size;
+  placedSize_ = designed_ = size;
   if (!host_.options().geometryFile.isEmpty()) {
     const QSettings kept(host_.options().geometryFile, QSettings::IniFormat);
     const QSize wanted = kept.value(keyOfSize(*screen_)).toSize();
@@ -172,8 +170,22 @@ void ScreenWindow::showPlaced() {
   placeWithin(screen()->availableGeometry());
   loadBackground();
   QWidget::show();
+  growToContent();
   raise();
   activateWindow();
+}
+
+/// Texts that break into lines know their height only once they have their width.
+void ScreenWindow::growToContent() {
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::LayoutRequest);
+  const int missing = body_->minimumSizeHint().height() - scroll_->viewport()->height();
+  if (missing <= 0 || size() != designed_) return;
+  const QRect available = screen()->availableGeometry();
+  resize(size().grownBy({0, 0, 0, missing}).boundedTo({available.width(), available.height() - frameAllowance}));
+  placedSize_ = size();
+  QRect place(QPoint(), size());
+  place.moveCenter(available.center());
+  move(place.topLeft());
 }
 
 void ScreenWindow::keepSize() const {
@@ -285,11 +297,6 @@ void ScreenWindow::closeEvent(QCloseEvent* event) {
   const QPointer<ScreenWindow> self(this);
   host_.enter([this] { screen_->userClose(); });
   if (self != nullptr) askedToClose_ = false;
-}
-
-bool ScreenWindow::event(QEvent* event) {
-  // Tab belongs to the screen: the toolkit's own chain would leave out what the screen's order knows.
-  return QWidget::event(event);
 }
 
 }  // namespace fenvale::qt

@@ -46,7 +46,6 @@ class ScreenWindow final : public QWidget {
  protected:
   void paintEvent(QPaintEvent* event) override;
   void closeEvent(QCloseEvent* event) override;
-  bool event(QEvent* event) override;
 
  private:
   void addMenuAndTools(QVBoxLayout& column);
@@ -57,6 +56,7 @@ class ScreenWindow final : public QWidget {
   void startTimers();
   void placeWithin(const QRect& available);
   QSize designedSize() const;
+  void growToContent();
   void keepSize() const;
   void loadBackground();
   Binding* bindingOf(const Control& control) const;
@@ -70,6 +70,7 @@ class ScreenWindow final : public QWidget {
   QLabel* note_ = nullptr;
   QScrollArea* scroll_ = nullptr;
   QWidget* body_ = nullptr;
+  QSize designed_;
   QSize placedSize_;
   QString backgroundPath_;
   QPixmap background_;

@@ -40,7 +40,7 @@ Tokens darkTokens() {
   t.onAccent = QColor(0x0d1513);
   t.lookup = QColor(0x27392f);
   t.danger = QColor(0xff7b72);
-  t.cursor = QColor(0x2d4139);
+  t.cursor = QColor(0x2a3b35);
   t.hover = QColor(0x2c3432);
   t.pressed = QColor(0x343e3b);
   t.accentHover = QColor(0x55c79d);
@@ -59,6 +59,9 @@ QWidget#foot { border-top: 1px solid @line; }
 QWidget#splash { background: @base; border: 1px solid @line; }
 QScrollArea, QScrollArea > QWidget > QWidget#body { background: transparent; border: 0; }
 QLabel[role="label"], QLabel[role="muted"] { color: @muted; }
+QLabel[role="display"] { color: @accent; }
+QLabel[role="hint"] {
+  color: @text; background: @base; border: 1px solid @line; border-radius: 6px; padding: 8px 14px; }
 QLabel[role="link"] { color: @accent; }
 QLabel[role="label"]:disabled { color: @disabledText; }
 
@@ -143,10 +146,9 @@ QScrollBar::handle:hover { background: @muted; }
 QScrollBar::add-line, QScrollBar::sub-line { width: 0; height: 0; border: 0; background: none; }
 QScrollBar::add-page, QScrollBar::sub-page { background: none; }
 QScrollBar#pages { background: @band; border: 1px solid @line; border-radius: 6px; height: 14px; }
-QScrollBar#pages:focus { border-color: @accent; }
-QScrollBar#pages::handle:horizontal { min-width: 40px; }
-QScrollBar#pages:focus::handle { background: @accent; }
-QScrollBar#pages:disabled::handle { background: @line; }
+QScrollBar#pages:focus { border: 1px solid @accent; }
+QScrollBar#pages::handle:horizontal { min-width: 40px; margin: 1px; border-radius: 5px; }
+QScrollBar#pages::handle:horizontal:disabled { background: transparent; }
 QAbstractScrollArea::corner { background: transparent; border: 0; }
 
 QProgressBar { background: @pressed; border: 0; border-radius: 3px; min-height: 6px; max-height: 6px; }
@@ -253,6 +255,7 @@ QString Theme::styleSheet() const {
 QFont Theme::baseFont() const { return interfaceFont(10, QFont::Normal); }
 QFont Theme::labelFont() const { return interfaceFont(9, QFont::Normal); }
 QFont Theme::titleFont() const { return interfaceFont(15, QFont::DemiBold); }
+QFont Theme::displayFont() const { return interfaceFont(26, QFont::DemiBold); }
 QFont Theme::strongFont() const { return interfaceFont(10, QFont::DemiBold); }
 
 QColor Theme::translated(std::int32_t colour) const {

@@ -51,6 +51,7 @@ class Theme {
   QFont labelFont() const;
   QFont titleFont() const;
   QFont strongFont() const;
+  QFont displayFont() const;
 
   /// A colour of the rules (red in the low byte) as it reads on this scheme: 0 is the text's, 192 the dark red.
   QColor translated(std::int32_t colour) const;

@@ -13,6 +13,7 @@ class TimerTicks final : public BindingOf<Timer, QWidget> {
   TimerTicks(QtHost& host, Timer& control, QWidget& window);
 
  protected:
+  void letGo() override { timer_.stop(); }
   void refresh(Aspect aspect) override;
 
  private:

@@ -184,7 +184,7 @@ class FilesBinding final : public BindingOf<FileList, QListWidget> {
     if (aspect == Aspect::items) {
       view().clear();
       for (const std::string& name : control().files())
-        view().addItem(new QListWidgetItem(host().icons().icon("arquivo"), toQt(name)));
+        view().addItem(new QListWidgetItem(host().icons().accentIcon("arquivo"), toQt(name)));
     }
     if (aspect != Aspect::selection) return;
     for (int row = 0; row < view().count(); ++row)
@@ -211,6 +211,7 @@ Binding& render(FolderTree& control, QtHost& host) { return *new FolderBinding(h
 Binding& render(FileList& control, QtHost& host) {
   auto* const list = new QListWidget;
   list->setTabKeyNavigation(false);
+  list->setIconSize({measures::icon, measures::icon});
   list->setMinimumHeight(6 * measures::rowHeight);
   return *new FilesBinding(host, control, *list);
 }

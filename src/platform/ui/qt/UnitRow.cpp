@@ -10,10 +10,6 @@ namespace {
 
 constexpr int gap = measures::gap;
 
-int heightOf(QLayoutItem& item, int width) {
-  return item.hasHeightForWidth() ? item.heightForWidth(width) : item.sizeHint().height();
-}
-
 }  // namespace
 
 UnitRow::UnitRow(int units) : units_(std::max(units, 1)) { setContentsMargins(0, 0, 0, 0); }
@@ -77,19 +73,6 @@ Qt::Orientations UnitRow::expandingDirections() const {
   return directions;
 }
 
-bool UnitRow::hasHeightForWidth() const {
-  return std::any_of(items_.begin(), items_.end(), [](const Item& item) { return item.item->hasHeightForWidth(); });
-}
-
-int UnitRow::heightForWidth(int width) const {
-  const auto shown = shownItems();
-  const auto widths = widthsFor(width, shown);
-  int height = 0;
-  for (std::size_t place = 0; place < shown.size(); ++place)
-    height = std::max(height, heightOf(*shown[place]->item, widths[place]));
-  return height;
-}
-
 bool UnitRow::isEmpty() const { return shownItems().empty(); }
 
 std::vector<int> UnitRow::widthsFor(int available, const std::vector<const Item*>& shown) const {
@@ -133,7 +116,7 @@ void UnitRow::setGeometry(const QRect& rect) {
   for (std::size_t place = 0; place < shown.size(); ++place) {
     QLayoutItem& item = *shown[place]->item;
     const bool grows = (item.expandingDirections() & Qt::Vertical) != 0 || shown[place]->placement == Placement::full;
-    const int height = grows ? rect.height() : std::min(heightOf(item, widths[place]), rect.height());
+    const int height = grows ? rect.height() : std::min(item.sizeHint().height(), rect.height());
     const int y = shown[place]->placement == Placement::bottom ? rect.bottom() + 1 - height : rect.y();
     item.setGeometry({x, y, widths[place], height});
     x += widths[place] + gap;

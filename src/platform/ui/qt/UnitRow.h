@@ -25,8 +25,6 @@ class UnitRow final : public QLayout {
   QSize sizeHint() const override;
   QSize minimumSize() const override;
   Qt::Orientations expandingDirections() const override;
-  bool hasHeightForWidth() const override;
-  int heightForWidth(int width) const override;
   bool isEmpty() const override;
   void setGeometry(const QRect& rect) override;
 

@@ -1,0 +1,159 @@
+#include "gui/support/LookChecks.h"
+
+#include <QtWidgets>
+#include <algorithm>
+#include <set>
+
+#include "platform/ui/Control.h"
+#include "platform/ui/Screen.h"
+#include "platform/ui/qt/Probe.h"
+#include "platform/ui/qt/QtHost.h"
+
+namespace fenvale::qt {
+namespace {
+
+std::string described(const QWidget& widget, const QString& text) {
+  return (widget.objectName() + QStringLiteral(" (") + QLatin1String(widget.metaObject()->className()) +
+          QStringLiteral(" %1,%2 %3x%4").arg(widget.x()).arg(widget.y()).arg(widget.width()).arg(widget.height()) +
+          QStringLiteral(") \"") + text + QStringLiteral("\""))
+      .toStdString();
+}
+
+void checkFits(const QWidget& widget, const QString& text, int needed, int room, std::vector<std::string>& faults) {
+  if (needed > room)
+    faults.push_back("cut: " + described(widget, text) + " needs " + std::to_string(needed) + " of " +
+                     std::to_string(room));
+}
+
+/// Only what stands on its own: parts of a list, a box or a bar are that widget's business.
+bool standsAlone(const QWidget& widget) {
+  if (qobject_cast<const QLineEdit*>(&widget) != nullptr)
+    return qobject_cast<const QComboBox*>(widget.parentWidget()) == nullptr;
+  return qobject_cast<const QAbstractButton*>(&widget) != nullptr || qobject_cast<const QLabel*>(&widget) != nullptr ||
+         qobject_cast<const QComboBox*>(&widget) != nullptr ||
+         qobject_cast<const QAbstractScrollArea*>(&widget) != nullptr ||
+         qobject_cast<const QGroupBox*>(&widget) != nullptr || qobject_cast<const QTabWidget*>(&widget) != nullptr ||
+         qobject_cast<const QProgressBar*>(&widget) != nullptr || qobject_cast<const QScrollBar*>(&widget) != nullptr;
+}
+
+bool isPartOf(const QWidget& widget, const QWidget& window) {
+  for (const QWidget* above = widget.parentWidget(); above != nullptr && above != &window;
+       above = above->parentWidget()) {
+    const bool page = above->objectName() == QStringLiteral("body") ||
+                      above->objectName() == QStringLiteral("qt_scrollarea_viewport");
+    if (qobject_cast<const QAbstractItemView*>(above) != nullptr || qobject_cast<const QLineEdit*>(above) != nullptr ||
+        qobject_cast<const QPlainTextEdit*>(above) != nullptr || qobject_cast<const QComboBox*>(above) != nullptr ||
+        qobject_cast<const QTabBar*>(above) != nullptr)
+      return true;
+    if (!page && above->isWindow()) return true;
+  }
+  return false;
+}
+
+bool holds(const QWidget& outer, const QWidget& inner) { return outer.isAncestorOf(&inner); }
+
+std::vector<const QWidget*> shownWidgets(const QWidget& window) {
+  std::vector<const QWidget*> shown;
+  for (const QWidget* widget : window.findChildren<QWidget*>())
+    if (widget->isVisible() && standsAlone(*widget) && !isPartOf(*widget, window)) shown.push_back(widget);
+  return shown;
+}
+
+QRect placeIn(const QWidget& widget, const QWidget& window) { return {widget.mapTo(&window, QPoint()), widget.size()}; }
+
+}  // namespace
+
+std::vector<std::string> cutTexts(const QWidget& window) {
+  std::vector<std::string> faults;
+  for (const QWidget* widget : shownWidgets(window)) {
+    if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && !label->wordWrap()) {
+      checkFits(*label, label->text(), label->sizeHint().width(), label->width(), faults);
+      checkFits(*label, label->text(), label->fontMetrics().height(), label->height(), faults);
+    } else if (const auto* wrapped = qobject_cast<const QLabel*>(widget)) {
+      checkFits(*wrapped, wrapped->text(), wrapped->heightForWidth(wrapped->width()), wrapped->height(), faults);
+    } else if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) {
+      checkFits(*button, button->text(), button->minimumSizeHint().width(), button->width(), faults);
+    } else if (const auto* frame = qobject_cast<const QGroupBox*>(widget)) {
+      checkFits(*frame, frame->title(), frame->fontMetrics().horizontalAdvance(frame->title()) + 20, frame->width(),
+                faults);
+    } else if (const auto* tabs = qobject_cast<const QTabWidget*>(widget)) {
+      const QTabBar& bar = *tabs->tabBar();
+      for (int tab = 0; tab < bar.count(); ++tab)
+        if (bar.isTabVisible(tab) && bar.tabRect(tab).right() > tabs->width())
+          faults.push_back("cut: tab " + bar.tabText(tab).toStdString());
+    }
+  }
+  return faults;
+}
+
+std::vector<std::string> overlaps(const QWidget& window) {
+  std::vector<std::string> faults;
+  const auto shown = shownWidgets(window);
+  for (auto one = shown.begin(); one != shown.end(); ++one) {
+    const QRect place = placeIn(**one, window);
+    if (place.left() < 0 || place.right() >= window.width())
+      faults.push_back("out of the window: " + described(**one, QString::number(place.right())));
+    for (auto other = one + 1; other != shown.end(); ++other) {
+      if (holds(**one, **other) || holds(**other, **one)) continue;
+      const QRect common = place.intersected(placeIn(**other, window));
+      // What scrolls out of sight lies under the foot without being seen.
+      const auto* const area = window.findChild<QScrollArea*>();
+      const bool inArea = area != nullptr && (holds(*area, **one) != holds(*area, **other));
+      if (!common.isEmpty() && !inArea)
+        faults.push_back("overlap: " + described(**one, {}) + " and " +
+                         described(**other, qobject_cast<const QLabel*>(*other)
+                                                ? static_cast<const QLabel*>(*other)->text()
+                                                : QString()));
+    }
+  }
+  return faults;
+}
+
+std::vector<std::string> unreachable(QtHost& host, Screen& screen) {
+  std::vector<std::string> faults;
+  const auto order = screen.tabOrder();
+  for (const Control* control : order) {
+    const QWidget* const widget = widgetOf(*control);
+    if (widget == nullptr) {
+      faults.push_back("no widget: " + control->name());
+    } else if (widget->accessibleName().trimmed().isEmpty()) {
+      faults.push_back("no accessible name: " + control->name());
+    }
+  }
+  std::set<const Control*> met;
+  for (std::size_t step = 0; step < order.size(); ++step) {
+    screen.focusNext();
+    QCoreApplication::processEvents();
+    if (screen.focused() != nullptr) met.insert(screen.focused());
+    const QWidget* const widget = screen.focused() == nullptr ? nullptr : widgetOf(*screen.focused());
+    if (widget != nullptr && !widget->isVisible())
+      faults.push_back("focus on what is not seen: " + screen.focused()->name());
+  }
+  for (const Control* control : order)
+    if (!met.contains(control)) faults.push_back("Tab does not reach " + control->name());
+  static_cast<void>(host);
+  return faults;
+}
+
+std::vector<std::string> faultsOf(QtHost& host, Screen& screen) {
+  QWidget& window = *windowOf(screen);
+  std::vector<std::string> faults = unreachable(host, screen);
+  const auto add = [&faults](const std::vector<std::string>& more) {
+    faults.insert(faults.end(), more.begin(), more.end());
+  };
+  const auto look = [&] {
+    QCoreApplication::processEvents();
+    add(cutTexts(window));
+    add(overlaps(window));
+  };
+  const auto strips = window.findChildren<QTabWidget*>();
+  if (strips.isEmpty()) look();
+  for (QTabWidget* const strip : strips)
+    for (int tab = 0; tab < strip->count(); ++tab) {
+      strip->setCurrentIndex(tab);
+      look();
+    }
+  return faults;
+}
+
+}  // namespace fenvale::qt
