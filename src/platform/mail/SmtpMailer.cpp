@@ -33,8 +33,12 @@ std::size_t giveMore(char* buffer, std::size_t size, std::size_t count, void* us
   return bytes;
 }
 
-std::size_t keepReply(char* line, std::size_t size, std::size_t count, void* user) {
-  *static_cast<std::string*>(user) = std::string(line, size * count);
+bool isRefusal(std::string_view line) { return line.size() > 3 && (line[0] == '4' || line[0] == '5'); }
+
+/// The server's last refusal; the good-bye that follows it says nothing.
+std::size_t keepRefusal(char* text, std::size_t size, std::size_t count, void* user) {
+  const std::string_view line(text, size * count);
+  if (isRefusal(line)) *static_cast<std::string*>(user) = line;
   return size * count;
 }
 
@@ -59,11 +63,8 @@ std::string urlOf(const std::string& server) {
   return (encrypted ? "smtps://" : "smtp://") + clean + "/" + hostName();
 }
 
-/// The server's last reply without its line break, when it refused something.
 std::string refusal(const std::string& reply) {
-  const std::string line = trim(without(reply, "\r\n"));
-  const bool refused = line.size() > 3 && (line[0] == '4' || line[0] == '5');
-  return refused ? " Resposta do servidor: " + line : std::string();
+  return reply.empty() ? std::string() : " Resposta do servidor: " + trim(without(reply, "\r\n"));
 }
 
 std::string sentence(CURLcode code, const Mail& mail, const std::string& reply, const char* detail) {
@@ -119,9 +120,9 @@ std::string SmtpMailer::send(const Mail& mail) {
   curl_easy_setopt(handle.get(), CURLOPT_UPLOAD, 1L);
   curl_easy_setopt(handle.get(), CURLOPT_READFUNCTION, giveMore);
   curl_easy_setopt(handle.get(), CURLOPT_READDATA, &upload);
-  curl_easy_setopt(handle.get(), CURLOPT_HEADERFUNCTION, keepReply);
+  curl_easy_setopt(handle.get(), CURLOPT_HEADERFUNCTION, keepRefusal);
   curl_easy_setopt(handle.get(), CURLOPT_HEADERDATA, &reply);
-  curl_easy_setopt(handle.get(), CURLOPT_WRITEFUNCTION, keepReply);
+  curl_easy_setopt(handle.get(), CURLOPT_WRITEFUNCTION, keepRefusal);
   curl_easy_setopt(handle.get(), CURLOPT_WRITEDATA, &reply);
   curl_easy_setopt(handle.get(), CURLOPT_ERRORBUFFER, detail.data());
 
