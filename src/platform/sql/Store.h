@@ -119,8 +119,9 @@ class Recordset {
   /// Rows changed by the last statement that was no query.
   std::int64_t affectedRows() const;
 
- private:
   class Implementation;
+
+ private:
   std::unique_ptr<Implementation> implementation_;
 };
 

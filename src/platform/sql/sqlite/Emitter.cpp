@@ -13,20 +13,24 @@ bool answersYesNo(Operation operation) {
 
 std::string_view signOf(Operation operation) {
   switch (operation) {
-    case Operation::equal: return " = ";
-    case Operation::notEqual: return " <> ";
-    case Operation::less: return " < ";
-    case Operation::greater: return " > ";
-    case Operation::lessEqual: return " <= ";
-    default: return " >= ";
+    case Operation::equal:
+      return " = ";
+    case Operation::notEqual:
+      return " <> ";
+    case Operation::less:
+      return " < ";
+    case Operation::greater:
+      return " > ";
+    case Operation::lessEqual:
+      return " <= ";
+    default:
+      return " >= ";
   }
 }
 
 }  // namespace
 
-std::string sqliteName(std::string_view name) {
-  return "\"" + replaceAll(std::string(name), "\"", "\"\"") + "\"";
-}
+std::string sqliteName(std::string_view name) { return "\"" + replaceAll(std::string(name), "\"", "\"\"") + "\""; }
 
 std::string sqliteText(std::string_view text) { return "'" + replaceAll(std::string(text), "'", "''") + "'"; }
 
@@ -140,8 +144,10 @@ void SqliteEmitter::where(const std::vector<BoundExpression>& conditions) {
 
 void SqliteEmitter::condition(const BoundExpression& expression) {
   switch (expression.operation) {
-    case Operation::logicalOr: return infix(expression, " OR ", true);
-    case Operation::logicalAnd: return infix(expression, " AND ", true);
+    case Operation::logicalOr:
+      return infix(expression, " OR ", true);
+    case Operation::logicalAnd:
+      return infix(expression, " AND ", true);
     case Operation::logicalNot:
       text_ += "(NOT ";
       condition(expression.operands[0]);
@@ -152,15 +158,18 @@ void SqliteEmitter::condition(const BoundExpression& expression) {
     case Operation::less:
     case Operation::greater:
     case Operation::lessEqual:
-    case Operation::greaterEqual: return comparison(expression);
-    case Operation::between: return between(expression);
+    case Operation::greaterEqual:
+      return comparison(expression);
+    case Operation::between:
+      return between(expression);
     case Operation::isNull:
     case Operation::isNotNull:
       text_ += "(";
       value(expression.operands[0]);
       text_ += expression.operation == Operation::isNull ? " IS NULL)" : " IS NOT NULL)";
       return;
-    default: value(expression);
+    default:
+      value(expression);
   }
 }
 
@@ -172,16 +181,26 @@ void SqliteEmitter::value(const BoundExpression& expression) {
     return;
   }
   switch (expression.operation) {
-    case Operation::column: return column(expression);
+    case Operation::column:
+      return column(expression);
     case Operation::parameter:
       text_ += inlineParameter_ ? inlineParameter_(expression.source) : "?" + std::to_string(expression.source + 1);
       return;
-    case Operation::null: text_ += "NULL"; return;
+    case Operation::null:
+      text_ += "NULL";
+      return;
     case Operation::zero:
-    case Operation::falseValue: text_ += "0"; return;
-    case Operation::trueValue: text_ += "-1"; return;
-    case Operation::maskText: text_ += sqliteText(expression.text); return;
-    case Operation::joinStrict: return infix(expression, " || ", false);
+    case Operation::falseValue:
+      text_ += "0";
+      return;
+    case Operation::trueValue:
+      text_ += "-1";
+      return;
+    case Operation::maskText:
+      text_ += sqliteText(expression.text);
+      return;
+    case Operation::joinStrict:
+      return infix(expression, " || ", false);
     case Operation::joinLoose:
       text_ += "(COALESCE(";
       value(expression.operands[0]);
@@ -189,9 +208,12 @@ void SqliteEmitter::value(const BoundExpression& expression) {
       value(expression.operands[1]);
       text_ += ", ''))";
       return;
-    case Operation::add: return infix(expression, " + ", false);
-    case Operation::subtract: return infix(expression, " - ", false);
-    case Operation::multiply: return infix(expression, " * ", false);
+    case Operation::add:
+      return infix(expression, " + ", false);
+    case Operation::subtract:
+      return infix(expression, " - ", false);
+    case Operation::multiply:
+      return infix(expression, " * ", false);
     case Operation::negate:
       text_ += "(- ";
       value(expression.operands[0]);
@@ -206,11 +228,17 @@ void SqliteEmitter::value(const BoundExpression& expression) {
       value(expression.operands[2]);
       text_ += " END)";
       return;
-    case Operation::countRows: text_ += "COUNT(*)"; return;
-    case Operation::count: return call("COUNT", expression);
-    case Operation::sum: return call("SUM", expression);
-    case Operation::minimum: return call("MIN", expression);
-    case Operation::maximum: return call("MAX", expression);
+    case Operation::countRows:
+      text_ += "COUNT(*)";
+      return;
+    case Operation::count:
+      return call("COUNT", expression);
+    case Operation::sum:
+      return call("SUM", expression);
+    case Operation::minimum:
+      return call("MIN", expression);
+    case Operation::maximum:
+      return call("MAX", expression);
     case Operation::subselect:
       text_ += "(";
       select(*expression.select, true);
@@ -234,23 +262,40 @@ void SqliteEmitter::value(const BoundExpression& expression) {
       text_ += " AS INTEGER)";
       return;
     }
-    case Operation::multiplyCurrencies: return call("fv_multiply", expression);
-    case Operation::divide: return call("fv_divide", expression);
-    case Operation::middle: return call("fv_mid", expression);
-    case Operation::formatCurrency: return call("fv_format_currency", expression);
-    case Operation::formatDate: return call("fv_format_date", expression);
-    case Operation::formatInteger: return call("fv_format_integer", expression);
-    case Operation::formatText: return call("fv_format_text", expression);
-    case Operation::daysBetween: return call("fv_days_between", expression);
-    case Operation::decimalToCurrency: return call("fv_decimal_to_currency", expression);
-    case Operation::textToNumber: return call("fv_text_to_number", expression);
-    case Operation::textToCurrency: return call("fv_text_to_currency", expression);
-    case Operation::integerToText: return call("fv_integer_to_text", expression);
-    case Operation::currencyToText: return call("fv_currency_to_text", expression);
-    case Operation::decimalToText: return call("fv_decimal_to_text", expression);
-    case Operation::dateToText: return call("fv_date_to_text", expression);
-    case Operation::assign: return assign(expression);
-    default: return;
+    case Operation::multiplyCurrencies:
+      return call("fv_multiply", expression);
+    case Operation::divide:
+      return call("fv_divide", expression);
+    case Operation::middle:
+      return call("fv_mid", expression);
+    case Operation::formatCurrency:
+      return call("fv_format_currency", expression);
+    case Operation::formatDate:
+      return call("fv_format_date", expression);
+    case Operation::formatInteger:
+      return call("fv_format_integer", expression);
+    case Operation::formatText:
+      return call("fv_format_text", expression);
+    case Operation::daysBetween:
+      return call("fv_days_between", expression);
+    case Operation::decimalToCurrency:
+      return call("fv_decimal_to_currency", expression);
+    case Operation::textToNumber:
+      return call("fv_text_to_number", expression);
+    case Operation::textToCurrency:
+      return call("fv_text_to_currency", expression);
+    case Operation::integerToText:
+      return call("fv_integer_to_text", expression);
+    case Operation::currencyToText:
+      return call("fv_currency_to_text", expression);
+    case Operation::decimalToText:
+      return call("fv_decimal_to_text", expression);
+    case Operation::dateToText:
+      return call("fv_date_to_text", expression);
+    case Operation::assign:
+      return assign(expression);
+    default:
+      return;
   }
 }
 
@@ -327,13 +372,15 @@ void SqliteEmitter::assign(const BoundExpression& expression) {
       text_ += "fv_check_currency(";
       value(expression.operands[0]);
       break;
-    case ColumnKind::date: return value(expression.operands[0]);
+    case ColumnKind::date:
+      return value(expression.operands[0]);
     case ColumnKind::text:
       text_ += "fv_check_text(";
       value(expression.operands[0]);
       text_ += ", " + std::to_string(expression.target.limit);
       break;
-    case ColumnKind::memo: return value(expression.operands[0]);
+    case ColumnKind::memo:
+      return value(expression.operands[0]);
     default: {
       const IntegerRange range = rangeOf(expression.target.kind);
       text_ += "fv_check_integer(";

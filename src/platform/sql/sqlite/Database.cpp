@@ -1,0 +1,202 @@
+#include "platform/sql/sqlite/Database.h"
+
+#include <fcntl.h>
+#include <sqlite3.h>
+#include <unistd.h>
+
+#include <algorithm>
+#include <cerrno>
+#include <thread>
+
+#include "platform/base/Error.h"
+#include "platform/os/Files.h"
+#include "platform/sql/dialect/Literals.h"
+#include "platform/sql/sqlite/Failures.h"
+#include "platform/sql/sqlite/Functions.h"
+
+namespace fenvale::sql {
+namespace {
+
+using std::chrono::milliseconds;
+
+// Marks a file as one of our stores ("FENV"), so that another program's database is told from it.
+constexpr int applicationId = 0x46454E56;
+
+/// Short at first, since most locks last no longer than a commit.
+milliseconds pause(int attempt) { return milliseconds(std::min(100, 1 << std::min(attempt, 7))); }
+
+void synchronizeFolderOf(const std::string& path) {
+  const std::size_t place = path.rfind('/');
+  const std::string folder = place == std::string::npos ? "." : path.substr(0, place + 1);
+  if (const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY); descriptor >= 0) {
+    ::fsync(descriptor);
+    ::close(descriptor);
+  }
+}
+
+}  // namespace
+
+void Prepared::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
+
+Prepared::Prepared(sqlite3* database, const std::string& text) : database_(database) {
+  sqlite3_stmt* statement = nullptr;
+  const int code = sqlite3_prepare_v3(database, text.data(), static_cast<int>(text.size()), SQLITE_PREPARE_PERSISTENT,
+                                      &statement, nullptr);
+  statement_.reset(statement);
+  if (code != SQLITE_OK) fail(database, code);
+}
+
+void Prepared::bind(const std::vector<StoredValue>& values) {
+  for (std::size_t index = 0; index < values.size(); ++index) {
+    const int number = static_cast<int>(index) + 1;
+    if (const auto* whole = std::get_if<std::int64_t>(&values[index])) {
+      sqlite3_bind_int64(statement_.get(), number, *whole);
+    } else if (const auto* real = std::get_if<double>(&values[index])) {
+      sqlite3_bind_double(statement_.get(), number, *real);
+    } else if (const auto* text = std::get_if<std::string>(&values[index])) {
+      sqlite3_bind_text64(statement_.get(), number, text->data(), text->size(), SQLITE_TRANSIENT, SQLITE_UTF8);
+    } else {
+      sqlite3_bind_null(statement_.get(), number);
+    }
+  }
+}
+
+void Prepared::bind(int number, std::int64_t value) { sqlite3_bind_int64(statement_.get(), number, value); }
+
+bool Prepared::step() {
+  const int code = sqlite3_step(statement_.get());
+  if (code == SQLITE_ROW) return true;
+  if (code == SQLITE_DONE) {
+    reset();
+    return false;
+  }
+  // A function of ours keeps the Error it refused a value with.
+  const int reported = sqlite3_reset(statement_.get());
+  rethrowFunctionError();
+  fail(database_, reported == SQLITE_OK ? code : reported);
+}
+
+void Prepared::reset() { sqlite3_reset(statement_.get()); }
+
+bool Prepared::isNull(std::size_t column) const {
+  return sqlite3_column_type(statement_.get(), static_cast<int>(column)) == SQLITE_NULL;
+}
+
+std::int64_t Prepared::integer(std::size_t column) const {
+  return sqlite3_column_int64(statement_.get(), static_cast<int>(column));
+}
+
+Value Prepared::value(std::size_t column, ValueType type) const {
+  if (isNull(column)) return {};
+  const int place = static_cast<int>(column);
+  const auto text = [&] {
+    return std::string(reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), place)),
+                       static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), place)));
+  };
+  switch (type) {
+    case ValueType::integer:
+      return Value::integer(integer(column));
+    case ValueType::currency:
+      return Value::currency(Currency::fromUnits(integer(column)));
+    case ValueType::decimal:
+      return Value::decimal(sqlite3_column_double(statement_.get(), place));
+    case ValueType::boolean:
+      return Value::boolean(integer(column) != 0);
+    case ValueType::date:
+      if (const auto moment = readStoredDate(text())) return Value::date(*moment);
+      return {};
+    default:
+      return Value::text(text());
+  }
+}
+
+Database::Database(const std::string& path, LockWait* lockWait) : lockWait_(lockWait) {
+  if (!files::isFile(path)) throw Error(errors::storeNotFound, "O banco de dados " + path + " não foi localizado.");
+  const int code = sqlite3_open_v2(path.c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr);
+  try {
+    if (code != SQLITE_OK) fail(handle_, code);
+    sqlite3_extended_result_codes(handle_, 1);
+    sqlite3_busy_handler(handle_, &waitForLock, this);
+    sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
+    registerFunctions(handle_);
+    Prepared id = prepare("PRAGMA application_id");
+    if (!id.step() || id.integer(0) != applicationId)
+      throw Error(errors::fileNotStore, "O arquivo " + path + " não é um banco de dados do programa.");
+    id.reset();
+    run("PRAGMA foreign_keys = ON");
+    run("PRAGMA synchronous = FULL");
+    run("PRAGMA temp_store = MEMORY");
+    run("PRAGMA cache_size = -16384");
+  } catch (const Error&) {
+    sqlite3_close_v2(handle_);
+    throw;
+  }
+}
+
+// Recordsets may still hold prepared statements: SQLite frees the database with the last of them.
+Database::~Database() { sqlite3_close_v2(handle_); }
+
+void Database::run(const std::string& text) {
+  const int code = sqlite3_exec(handle_, text.c_str(), nullptr, nullptr, nullptr);
+  if (code != SQLITE_OK) {
+    rethrowFunctionError();
+    fail(handle_, code);
+  }
+}
+
+std::vector<std::string> Database::texts(const std::string& query) const {
+  std::vector<std::string> result;
+  Prepared rows = prepare(query);
+  while (rows.step()) result.push_back(rows.value(0, ValueType::text).toText());
+  return result;
+}
+
+std::int64_t Database::changedRows() const { return sqlite3_changes64(handle_); }
+
+bool Database::inTransaction() const { return sqlite3_get_autocommit(handle_) == 0; }
+
+std::int64_t Database::schemaVersion() const {
+  Prepared version = prepare("PRAGMA schema_version");
+  const std::int64_t number = version.step() ? version.integer(0) : 0;
+  version.reset();
+  return number;
+}
+
+int Database::waitForLock(void* self, int attempt) {
+  auto& database = *static_cast<Database*>(self);
+  if (database.lockWait_ == nullptr) return 0;
+  if (attempt == 0) database.waited_ = database.told_ = milliseconds(0);
+  const milliseconds length = pause(attempt);
+  std::this_thread::sleep_for(length);
+  database.waited_ += length;
+  if (database.waited_ - database.told_ < milliseconds(100)) return 1;
+  database.told_ = database.waited_;
+  return database.lockWait_->keepWaiting(database.waited_) ? 1 : 0;
+}
+
+void createFile(const std::string& path) {
+  const std::string native = files::nativePath(path);
+  if (files::isFile(native)) throw Error(errors::storeExists, "O banco de dados " + native + " já existe.");
+  const std::string draft = native + ".novo-" + std::to_string(::getpid());
+  sqlite3* handle = nullptr;
+  int code = sqlite3_open_v2(draft.c_str(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
+  if (code == SQLITE_OK) {
+    const std::string text = "PRAGMA synchronous = FULL; PRAGMA application_id = " + std::to_string(applicationId) +
+                             "; CREATE TABLE " + catalogTable +
+                             " (ordem INTEGER PRIMARY KEY AUTOINCREMENT, texto TEXT NOT NULL)";
+    code = sqlite3_exec(handle, text.c_str(), nullptr, nullptr, nullptr);
+  }
+  sqlite3_close_v2(handle);
+  // A link, not a rename: should another program have made the file meanwhile, it stays.
+  const bool made = code == SQLITE_OK && ::link(draft.c_str(), native.c_str()) == 0;
+  const int reason = errno;
+  ::unlink(draft.c_str());
+  if (made) return synchronizeFolderOf(native);
+  if (code == SQLITE_OK && reason == EEXIST)
+    throw Error(errors::storeExists, "O banco de dados " + native + " já existe.");
+  if ((code & 0xFF) == SQLITE_FULL || reason == ENOSPC)
+    throw Error(errors::diskFull, "O disco está cheio: nada foi gravado.");
+  throw Error(errors::storeNotOpened, "O banco de dados " + native + " não pode ser criado.");
+}
+
+}  // namespace fenvale::sql

@@ -1,0 +1,18 @@
+#pragma once
+// Definitions of tables, indexes and relations, carried out on SQLite and kept in the catalogue.
+
+#include <string>
+
+#include "platform/sql/dialect/Catalog.h"
+
+namespace fenvale::sql {
+
+class Database;
+
+/// The catalogue as the store's own table tells it.
+Catalog readCatalog(const Database& database);
+
+/// Carries out one definition, given with its text, and adds it to `catalog`; all or nothing.
+void define(Database& database, Catalog& catalog, const Statement& definition, std::string_view text);
+
+}  // namespace fenvale::sql
