@@ -53,10 +53,23 @@ class ProgressBinding final : public BindingOf<ProgressBar, QWidget> {
   QLabel& count_;
 };
 
+/// The toolkit's own bar, lying down, answers the arrows up and down and not those of its own direction.
+class PagesBar final : public QScrollBar {
+ public:
+  PagesBar() : QScrollBar(Qt::Horizontal) {}
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Left) return triggerAction(SliderSingleStepSub);
+    if (event->key() == Qt::Key_Right) return triggerAction(SliderSingleStepAdd);
+    QScrollBar::keyPressEvent(event);
+  }
+};
+
 /// The position with its two arrows, and what stands beside it.
 class PagesPanel final : public QWidget {
  public:
-  explicit PagesPanel(const QtHost& host) : bar_(new QScrollBar(Qt::Horizontal)), summary_(new QLabel) {
+  explicit PagesPanel(const QtHost& host) : bar_(new PagesBar), summary_(new QLabel) {
     auto* const row = new QHBoxLayout(this);
     row->setContentsMargins(0, 0, 0, 0);
     row->setSpacing(4);
@@ -78,7 +91,8 @@ class PagesPanel final : public QWidget {
     const QSignalBlocker quiet(bar_);
     bar_->setRange(0, maximum);
     bar_->setValue(value);
-    bar_->setEnabled(maximum > 0);
+    // It stays enabled with nothing to choose from: a page that fills has none for a moment, and must not lose the
+    // focus.
     back_->setEnabled(value > 0);
     forward_->setEnabled(value < maximum);
     summary_->setText(summary);
