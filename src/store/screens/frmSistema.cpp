@@ -77,9 +77,9 @@ void frmSistema::vMontarLayout() {
           {
               linha({campo("Nome", txtNome, cresce)}),
               linha({campo("Endereço", txtEndereco, 15), campo("Bairro", txtBairro, cresce)}),
-              linha({campoCidade.campoNome(cresce), campoCidade.campoUF(), campo("CEP", txtCEP, 4)}),
-              linha({campo("CNPJ", txtCNPJ, 6), campo("Telefone", txtTelefone, 5), campo("Fax", txtFax, 5),
-                     campo("e-mail", txtEMail, cresce)}),
+              linha({campoCidade.campoNome(cresce), campoCidade.campoUF(), campo("CEP", txtCEP, 4),
+                     campo("CNPJ", txtCNPJ, 6)}),
+              linha({campo("Telefone", txtTelefone, 5), campo("Fax", txtFax, 5), campo("e-mail", txtEMail, cresce)}),
               linha({campo("Juros/Dia (Simples) %", txtPercentualJurosDia, 6),
                      campo("Juros/mês (Composto) %", txtPercentualJurosMes, 6)}),
               quadro("Reparcelamento",
