@@ -19,8 +19,7 @@ const std::vector<std::string>& forbiddenWords() {
 }
 
 const std::vector<std::string>& forbiddenPieces() {
-  static const std::vector<std::string> pieces{join("/wo", "rk/"), join("/ro", "ot/"), join("DIS", "ABLED_"),
-                                               join("sp", "ec.md")};
+  static const std::vector<std::string> pieces{join("/wo", "rk/"), join("DIS", "ABLED_"), join("sp", "ec.md")};
   return pieces;
 }
 

@@ -30,8 +30,8 @@ TEST(Words, DisabledTestsAreFound) {
 
 TEST(Words, PathsOfAMachineAreFound) {
   const std::string path =
-      "/ro"
-      "ot/";
+      "/wo"
+      "rk/";
   EXPECT_THAT(words("cp " + path + "file ."), ElementsAre(Finding{"docs/a.md", 1, path}));
 }
 
