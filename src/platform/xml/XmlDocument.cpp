@@ -132,17 +132,20 @@ XmlDocument::XmlDocument(XmlDocument&&) noexcept = default;
 XmlDocument& XmlDocument::operator=(XmlDocument&&) noexcept = default;
 
 XmlDocument XmlDocument::load(const std::string& path) {
+  try {
+    return parse(files::read(path), path);
+  } catch (const Error& failure) {
+    XmlDocument unread;
+    unread.error_ = {failure.number, 0, 0, 0, path, failure.description};
+    return unread;
+  }
+}
+
+XmlDocument XmlDocument::parse(const std::string& bytes, const std::string& url) {
   prepareLibrary();
   XmlDocument result;
-  std::string bytes;
-  try {
-    bytes = files::read(path);
-  } catch (const Error& failure) {
-    result.error_ = {failure.number, 0, 0, 0, path, failure.description};
-    return result;
-  }
   if (bytes.size() > static_cast<std::size_t>(std::numeric_limits<int>::max())) {
-    result.error_ = {errors::fileAccess, 0, 0, 0, path, "O documento é grande demais."};
+    result.error_ = {errors::fileAccess, 0, 0, 0, url, "O documento é grande demais."};
     return result;
   }
   const ParserPointer parser(xmlNewParserCtxt());
@@ -151,9 +154,9 @@ XmlDocument XmlDocument::load(const std::string& path) {
   const int options = XML_PARSE_NONET | XML_PARSE_NOERROR | XML_PARSE_NOWARNING | XML_PARSE_NOENT |
                       (declaresType ? XML_PARSE_DTDVALID : 0);
   DocumentPointer document(
-      xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), path.c_str(), nullptr, options));
+      xmlCtxtReadMemory(parser.get(), bytes.data(), static_cast<int>(bytes.size()), url.c_str(), nullptr, options));
   if (document == nullptr || parser->wellFormed == 0 || (declaresType && parser->valid == 0)) {
-    result.error_ = errorOf(*parser, path);
+    result.error_ = errorOf(*parser, url);
     return result;
   }
   result.tree_ = std::make_unique<Tree>(Tree{std::move(document)});

@@ -30,6 +30,8 @@ class XmlDocument {
   /// A file that cannot be read is a parse error with a reason too. Bytes that the declared encoding (UTF-8 without
   /// one) does not allow are parse errors. References 128 to 159 read as the Windows-1252 character they came from.
   static XmlDocument load(const std::string& path);
+  /// The same of bytes that are at hand; `url` names them in an error, and local files are looked for beside it.
+  static XmlDocument parse(const std::string& bytes, const std::string& url);
 
   XmlDocument();
   ~XmlDocument();

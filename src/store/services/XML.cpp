@@ -40,16 +40,6 @@ bool bTemReferencia(int codigo) {
          codigo != 160;
 }
 
-std::string sRevisar(const std::string& conteudo) {
-  // What people save today is UTF-8 as a rule, what they saved in former years Windows-1252: each is read as what it
-  // is.
-  const bool utf8 = bUtf8(conteudo);
-  std::string revisto;
-  for (const std::string& sLinha : files::lines(conteudo))
-    revisto += linha(XML::sSubstituirCaracteres(utf8 ? sLinha : fromWindows1252(sLinha)));
-  return utf8 ? revisto : toWindows1252(revisto);
-}
-
 }  // namespace
 
 XML::XML(Contexto& contexto) : contexto_(contexto) {}
@@ -102,6 +92,16 @@ void XML::vValidarCaracteresXML(const std::string& sCaminho) try {
 } catch (const Error& falha) {
   Caixas(contexto_.host()).criticar(falha.description);
   contexto_.tratadorExcessoes().vExibirGravarLogErro(falha, sGetName(), "vValidarCaracteresXML");
+}
+
+std::string XML::sRevisar(const std::string& conteudo) {
+  // What people save today is UTF-8 as a rule, what they saved in former years Windows-1252: each is read as what it
+  // is.
+  const bool utf8 = bUtf8(conteudo);
+  std::string revisto;
+  for (const std::string& sLinha : files::lines(conteudo))
+    revisto += linha(sSubstituirCaracteres(utf8 ? sLinha : fromWindows1252(sLinha)));
+  return utf8 ? revisto : toWindows1252(revisto);
 }
 
 std::string XML::sSubstituirCaracteres(std::string_view sTexto) {

@@ -24,6 +24,9 @@ class XML {
   std::string sGetTag(const std::string& sCaminho, const std::string& sTag);
   /// Rewrites the file with the characters replaced; what it was stays beside it under the ending "_INVALID_XML".
   void vValidarCaracteresXML(const std::string& sCaminho);
+  /// The bytes of a file with the characters of every line replaced, each line ended by CR LF. Bytes that are valid
+  /// UTF-8 throughout are read as that, all others as Windows-1252.
+  static std::string sRevisar(const std::string& conteudo);
   /// "&" and the characters 128 to 255 of Windows-1252 as decimal references. Takes and gives UTF-8.
   static std::string sSubstituirCaracteres(std::string_view sTexto);
 

@@ -24,20 +24,20 @@ class PrintServer {
  public:
   explicit PrintServer(const std::string& queues) {
     const std::string base = folder_.caminho();
-    for (const char* name : {"root", "state", "cache", "spool", "tmp"})
+    for (const char* name : {"conf", "state", "cache", "spool", "tmp"})
       std::filesystem::create_directories(base + "/" + name);
-    folder_.gravar("root/cupsd.conf", "Listen " + socket() +
+    folder_.gravar("conf/cupsd.conf", "Listen " + socket() +
                                           "\nBrowsing Off\nLogLevel error\nDefaultAuthType None\n"
                                           "<Location />\nOrder allow,deny\nAllow all\n</Location>\n");
-    folder_.gravar("root/cups-files.conf", "ServerRoot " + base + "/root\nStateDir " + base + "/state\nCacheDir " +
+    folder_.gravar("conf/cups-files.conf", "ServerRoot " + base + "/conf\nStateDir " + base + "/state\nCacheDir " +
                                                base + "/cache\nRequestRoot " + base + "/spool\nTempDir " + base +
                                                "/tmp\nFileDevice Yes\nAccessLog " + base + "/access\nErrorLog " + base +
                                                "/errors\nPageLog " + base + "/pages\n");
-    folder_.gravar("root/printers.conf", queues);
+    folder_.gravar("conf/printers.conf", queues);
     process_ = ::fork();
     if (process_ == 0) {
-      const std::string configuration = base + "/root/cupsd.conf";
-      const std::string places = base + "/root/cups-files.conf";
+      const std::string configuration = base + "/conf/cupsd.conf";
+      const std::string places = base + "/conf/cups-files.conf";
       ::execlp("cupsd", "cupsd", "-f", "-c", configuration.c_str(), "-s", places.c_str(), nullptr);
       ::execl("/usr/sbin/cupsd", "cupsd", "-f", "-c", configuration.c_str(), "-s", places.c_str(), nullptr);
       ::_exit(127);

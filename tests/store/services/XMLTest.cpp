@@ -3,6 +3,11 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+#include <fstream>
+#include <iterator>
+
+#include "fuzz/xml_repair.h"
 #include "platform/base/Error.h"
 #include "platform/base/Text.h"
 #include "support/Caixas.h"
@@ -59,6 +64,17 @@ TEST(Substituicao, WhatIsPlainOrBeyondTheTableStays) {
   EXPECT_EQ(XML::sSubstituirCaracteres("<a b=\"c\">'d'</a>\t"), "<a b=\"c\">'d'</a>\t");
   EXPECT_EQ(XML::sSubstituirCaracteres("Ω"), "Ω");
   EXPECT_EQ(XML::sSubstituirCaracteres(""), "");
+}
+
+TEST(Revisoes, WhatTheFuzzerFoundHoldsForGood) {
+  int quantos = 0;
+  for (const auto& entrada : std::filesystem::directory_iterator(FENVALE_SOURCE_DIR "/fuzz/corpus/xml_repair")) {
+    std::ifstream arquivo(entrada.path(), std::ios::binary);
+    SCOPED_TRACE(entrada.path().filename().string());
+    fuzz::xmlRepair({std::istreambuf_iterator<char>(arquivo), std::istreambuf_iterator<char>()});
+    ++quantos;
+  }
+  EXPECT_GE(quantos, 10);
 }
 
 TEST_F(Revisao, ASoundDocumentIsReadWithoutAWord) {
