@@ -77,6 +77,7 @@ class PagesPanel final : public QWidget {
     bar_->setObjectName(QStringLiteral("pages"));
     bar_->setFocusPolicy(Qt::StrongFocus);
     bar_->setTracking(false);
+    bar_->setInvertedControls(false);
     bar_->setPageStep(1);
     row->addWidget(bar_, 1);
     forward_ = addArrow(*row, host, "seta-direita", QStringLiteral("Próxima página"), 1);

@@ -48,6 +48,8 @@ QtHost::QtHost(HostOptions options)
 QtHost::~QtHost() {
   qApp->removeEventFilter(this);
   for (const Shown& shown : shown_) delete shown.window.data();
+  // Windows that were closed when no event loop was there to delete them.
+  QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   // The style draws by this host's theme.
   qApp->setStyleSheet({});
   QApplication::setStyle(QStringLiteral("Fusion"));

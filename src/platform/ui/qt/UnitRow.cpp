@@ -15,7 +15,12 @@ constexpr int gap = measures::gap;
 UnitRow::UnitRow(int units) : units_(std::max(units, 1)) { setContentsMargins(0, 0, 0, 0); }
 
 UnitRow::~UnitRow() {
-  for (const Item& item : items_) delete item.item;
+  // A layout that dies takes itself out of the one that holds it.
+  while (!items_.empty()) {
+    QLayoutItem* const last = items_.back().item;
+    items_.pop_back();
+    delete last;
+  }
 }
 
 void UnitRow::add(QWidget& widget, int width, Placement placement) {
