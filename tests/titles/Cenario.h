@@ -107,9 +107,10 @@ class Cenario {
     ++pessoas_;
     const std::string codigo = std::to_string(pessoas_);
     executar(
-        "INSERT INTO Clientes (lCodigoInf, sNome, lCategoria, lCidade, lVendedor, lCidadeEntrega, "
+        "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
+        "lCidadeEntrega, "
         "lCidadeCobranca) VALUES (" +
-        codigo + ", '" + nome + "', 1, 1, 1, 1, 1)");
+        codigo + ", '" + nome + "', 0, #01/01/1980#, 1, 1, 1, 1, 1)");
     executar("INSERT INTO Fornecedores (lCodigoInf, sNome, lCategoria, lCidade, lBanco) VALUES (" + codigo + ", '" +
              nome + "', 1, 1, 1)");
   }

@@ -105,9 +105,10 @@ std::vector<ColunaLista> EntidadesFatura::colunasCentroCusto() {
   return colunas(centroCusto, "centro de custo", "CentroCusto", 2200);
 }
 
-std::vector<std::int32_t> EntidadesFatura::chaves() {
-  std::vector<std::int32_t> todas;
-  for (const CampoBusca* busca : buscas()) todas.push_back(busca->lCodigo);
+std::vector<std::int32_t> EntidadesFatura::chaves() const {
+  std::vector<std::int32_t> todas{pessoa.busca.lCodigo, portador.busca.lCodigo};
+  if (vendedor) todas.push_back(vendedor->busca.lCodigo);
+  todas.push_back(centroCusto.busca.lCodigo);
   return todas;
 }
 

@@ -70,8 +70,8 @@ class EntidadesFatura {
   std::vector<ColunaLista> colunasVendedor();
   std::vector<ColunaLista> colunasCentroCusto();
 
-  /// The keys, to be given back after a save that failed.
-  std::vector<std::int32_t> chaves();
+  /// The keys, in the order of buscas(), to be given back after a save that failed.
+  std::vector<std::int32_t> chaves() const;
   void vRestaurarChaves(const std::vector<std::int32_t>& chaves);
 
  private:

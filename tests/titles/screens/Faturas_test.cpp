@@ -1,0 +1,343 @@
+// The invoice screen: its form, its list, what it refuses and what it writes.
+
+#include "access/services/Permissoes.h"
+#include "titles/screens/CenarioDeTelas.h"
+
+namespace fenvale {
+namespace {
+
+class FaturasTest : public CenarioDeTelas {
+ protected:
+  /// The save is refused with that box, and the focus is on that control.
+  void recusa(const MessageBox& caixa, const Control* foco) {
+    host.expectBox(caixa);
+    faturas().userKey(Key::f3);
+    host.verify();
+    EXPECT_EQ(faturas().focused(), foco);
+    EXPECT_EQ(contar(lado.sFaturas), "0");
+  }
+};
+
+TEST_P(FaturasTest, OpensOnANewInvoice) {
+  cenario.inserirFatura("10,00", tresVezes, 41);
+  TelaFaturas& tela = faturas();
+  EXPECT_EQ(tela.caption(), lado.faturas.sLegenda);
+  EXPECT_EQ(tela.title(), lado.faturas.sTitulo);
+  EXPECT_EQ(tela.txtNumeroFatura.text(), "42");
+  EXPECT_EQ(formatDate(tela.dtEmissao.value()), "10/05/2026");
+  EXPECT_EQ(tela.lGetCodigo(), -1);
+  EXPECT_EQ(tela.condicao.lCodigo, -1);
+  EXPECT_THAT(tela.entidades.chaves(), testing::Each(-1));
+  EXPECT_EQ(tela.focused(), &tela.txtNumeroFatura);
+  EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("41"));
+}
+
+TEST_P(FaturasTest, TheFirstInvoiceIsNumberOneAndAGapIsNeverRefilled) {
+  EXPECT_EQ(faturas().txtNumeroFatura.text(), "1");
+  cenario.inserirFatura("10,00", tresVezes, 1);
+  cenario.inserirFatura("10,00", tresVezes, 9);
+  faturas().userKey(Key::f2);
+  EXPECT_EQ(faturas().txtNumeroFatura.text(), "10");
+}
+
+TEST_P(FaturasTest, SearchAndPrintWaitForTheirScreens) {
+  EXPECT_FALSE(faturas().cmdLocalizar.enabled());
+  EXPECT_FALSE(faturas().cmdEmitir.enabled());
+  faturas().userKey(Key::f6);
+  faturas().userKey(Key::f5);
+}
+
+TEST_P(FaturasTest, ChecksInTheirOrder) {
+  TelaFaturas& tela = faturas();
+  tela.txtNumeroFatura.userType("");
+  recusa(aviso("Informe o número da fatura."), &tela.txtNumeroFatura);
+  tela.txtNumeroFatura.userType("1");
+  recusa(aviso("Informe o valor total."), &tela.txtTotal);
+  tela.txtTotal.userType("-1,00");
+  recusa(aviso("Informe o valor total."), &tela.txtTotal);
+  tela.txtTotal.userType("100,00");
+  tela.txtEntrada.userType("-0,01");
+  recusa(aviso("Informe o valor da entrada."), &tela.txtEntrada);
+  tela.txtEntrada.userType("100,01");
+  recusa(aviso("O valor da entrada é superior ao total da fatura.\r\nVerifique os valores."), &tela.txtTotal);
+  tela.txtEntrada.userType("10,00");
+  recusa(aviso(lado.sInformePessoaFatura), &tela.entidades.pessoa.caixa);
+  tela.entidades.pessoa.busca.vSet(1, "Açougue São João Ltda.");
+  recusa(aviso("Informe a condição de pagamento."), &tela.txtCondPagCodigoInf);
+  escolherCondicao(tresVezes);
+  recusa(
+      aviso("A condição de pagamento selecionada não tem entrada, porém um valor foi informado no campo Entrada (R$ "
+            "10,00).\r\nSelecione outra condição de pagamento com entrada ou deixe o valor da entrada igual a zero."),
+      &tela.txtEntrada);
+  escolherCondicao(tresComEntrada);
+  tela.txtEntrada.userType("0,00");
+  recusa(aviso("A condição de pagamento selecionada exige um valor para a entrada, porém o valor informado no campo "
+               "Entrada foi zero.\r\nSelecione outra condição de pagamento sem entrada ou informe o valor da entrada."),
+         &tela.txtEntrada);
+  tela.txtEntrada.userType("10,00");
+  recusa(aviso("Informe o portador."), &tela.entidades.portador.caixa);
+  tela.entidades.portador.busca.vSet(1, "Carteira");
+  if (lado.bVendedor) {
+    recusa(aviso("Informe o vendedor."), &tela.entidades.vendedor->caixa);
+    tela.entidades.vendedor->busca.vSet(1, "Maria Aparecida");
+  }
+  salvarFatura();
+}
+
+TEST_P(FaturasTest, WithoutACostCentreTheHiddenOneIsTaken) {
+  digitarFatura("100,00").entidades.centroCusto.busca.vLimpar();
+  salvarFatura();
+  EXPECT_EQ(cenario.valor("SELECT sDescricao FROM CentroCusto INNER JOIN " + lado.sFaturas +
+                          " ON CentroCusto.lCodigo = " + lado.sFaturas + ".lCentroCusto"),
+            "");
+  EXPECT_EQ(contar("CentroCusto"), "3");
+}
+
+TEST_P(FaturasTest, ASavedInvoiceWithAllItsColumns) {
+  digitarFatura("100,00", tresComEntrada, "10,00").txtNumeroFatura.userType("77");
+  salvarFatura();
+  EXPECT_THAT(cenario.programa.linhas("SELECT lNumeroFatura, FORMAT(dtEmissao, 'dd/mm/yyyy') AS E, fTotal, fEntrada, " +
+                                      lado.sChavePessoa + ", lCondicoesPagamento, lPortador, lCentroCusto FROM " +
+                                      lado.sFaturas),
+              ElementsAre(ElementsAre("77", "01/03/2026", "100", "10", "1", "2", "1", "1")));
+  EXPECT_THAT(cenario.titulos(1),
+              ElementsAre("000001/001 01/03/2026 10,00 pago 10,00", "000001/002 31/03/2026 45,00 pago 0,00",
+                          "000001/003 30/04/2026 45,00 pago 0,00"));
+  EXPECT_EQ(faturas().lGetCodigo(), -1);
+  EXPECT_EQ(faturas().txtNumeroFatura.text(), "78");
+}
+
+TEST_P(FaturasTest, AnInvoiceNumberMayRepeat) {
+  criarFatura("100,00");
+  digitarFatura("50,00").txtNumeroFatura.userType("1");
+  salvarFatura();
+  EXPECT_EQ(contar(lado.sFaturas), "2");
+}
+
+TEST_P(FaturasTest, ARowBringsTheInvoiceBackIntoTheForm) {
+  const int chave = criarFatura("1.234,50", tresComEntrada, "234,50");
+  const TelaFaturas& tela = abrirFatura(chave);
+  EXPECT_EQ(tela.lGetCodigo(), chave);
+  EXPECT_EQ(tela.txtNumeroFatura.text(), "1");
+  EXPECT_EQ(formatDate(tela.dtEmissao.value()), "01/03/2026");
+  EXPECT_EQ(tela.txtTotal.value(), reais("1.234,50"));
+  EXPECT_EQ(tela.txtEntrada.value(), reais("234,50"));
+  EXPECT_EQ(tela.entidades.pessoa.caixa.text(), "Açougue São João Ltda.");
+  EXPECT_EQ(tela.entidades.portador.caixa.text(), "Carteira");
+  EXPECT_EQ(tela.entidades.centroCusto.caixa.text(), "Loja");
+  EXPECT_EQ(tela.entidades.pessoa.busca.lCodigo, 1);
+  EXPECT_EQ(tela.condicao.lCodigo, tresComEntrada.chave);
+  EXPECT_EQ(tela.txtCondPagCodigoInf.text(), "2");
+  EXPECT_EQ(tela.txtNumeroParcelas.text(), "3");
+  EXPECT_EQ(tela.txtIntervalo.text(), "30");
+  EXPECT_TRUE(tela.chkEntrada.checked());
+  if (lado.bVendedor) {
+    EXPECT_EQ(tela.entidades.vendedor->caixa.text(), "Maria Aparecida");
+    EXPECT_EQ(tela.entidades.vendedor->busca.lCodigo, 1);
+  }
+}
+
+TEST_P(FaturasTest, TheTickOfTheConditionIsNotTheUsersToChange) {
+  digitarFatura("100,00").chkEntrada.userClick();
+  EXPECT_FALSE(faturas().chkEntrada.checked());
+}
+
+TEST_P(FaturasTest, AnAlteredInvoice) {
+  const int chave = criarFatura("100,00");
+  TelaFaturas& tela = abrirFatura(chave);
+  tela.txtNumeroFatura.userType("900");
+  tela.dtEmissao.userType("02/03/2026");
+  tela.entidades.pessoa.busca.vSet(2, "Bar do Élio");
+  tela.entidades.portador.busca.vSet(2, "Banco do Brasil");
+  tela.entidades.centroCusto.busca.vSet(2, "Depósito");
+  salvarFatura();
+  EXPECT_THAT(cenario.programa.linhas("SELECT lNumeroFatura, FORMAT(dtEmissao, 'dd/mm/yyyy') AS E, " +
+                                      lado.sChavePessoa + ", lPortador, lCentroCusto FROM " + lado.sFaturas),
+              ElementsAre(ElementsAre("900", "02/03/2026", "2", "2", "2")));
+}
+
+TEST_P(FaturasTest, RightsAreAskedForByWhatTheSaveIs) {
+  cenario.programa.executarPrograma(
+      "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
+      "bPoderImprimir, bPoderAtualizar) VALUES ('Ana', 'ana', 'x', -1, 0, -1, -1, 0)");
+  const int chave = criarFatura("100,00");
+  cenario.programa.permissoes().vSetPermissoes(1);
+  criarFatura("50,00");
+  abrirFatura(chave);
+  host.expectBox(semPermissao());
+  faturas().userKey(Key::f3);
+  host.expectBox(semPermissao());
+  faturas().userKey(Key::f4);
+  EXPECT_EQ(contar(lado.sFaturas), "2");
+}
+
+TEST_P(FaturasTest, DeletingTakesTheOpenTitlesAlong) {
+  const int chave = criarFatura("100,00");
+  abrirFatura(chave);
+  host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::no);
+  faturas().userKey(Key::f4);
+  EXPECT_EQ(contar(lado.sFaturas), "1");
+  host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
+  faturas().userKey(Key::f4);
+  EXPECT_EQ(contar(lado.sFaturas), "0");
+  EXPECT_EQ(contar(lado.sTitulos), "0");
+  EXPECT_EQ(faturas().lGetCodigo(), -1);
+}
+
+TEST_P(FaturasTest, DeletingWithoutAChosenInvoice) {
+  host.expectBox(aviso("Selecione o registro que deseja excluir."));
+  faturas().userKey(Key::f4);
+  EXPECT_EQ(faturas().focused(), &faturas().lstLista);
+}
+
+TEST_P(FaturasTest, AnInvoiceWithAPaidTitleIsNotDeleted) {
+  const int chave = criarFatura("100,00", tresComEntrada, "10,00");
+  abrirFatura(chave);
+  host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
+  host.expectBox(
+      critica("O registro não pode ser excluído.\r\n\r\nInformação detalhada: \r\n\r\n"
+              "A fatura tem títulos pagos."));
+  faturas().userKey(Key::f4);
+  EXPECT_EQ(contar(lado.sTitulos), "3");
+  EXPECT_EQ(faturas().lGetCodigo(), chave);
+  EXPECT_EQ(faturas().focused(), &faturas().txtNumeroFatura);
+}
+
+TEST_P(FaturasTest, TheQuickSearchAnswersAndTheFocusMovesOn) {
+  TelaFaturas& tela = faturas();
+  tela.entidades.pessoa.caixa.setFocus();
+  host.expectScreen(lado.sBuscaPessoa, [](Screen& busca) {
+    auto& lista = dynamic_cast<ListView&>(*busca.control("lstLista"));
+    lista.userClickRow(1);
+    lista.userClickRow(1);
+  });
+  tela.userKey(Key::space);
+  EXPECT_EQ(tela.entidades.pessoa.caixa.text(), "Bar do Élio");
+  EXPECT_EQ(tela.entidades.pessoa.busca.lCodigo, 2);
+  EXPECT_EQ(tela.focused(), &tela.txtCondPagCodigoInf);
+
+  host.expectScreen("frmLocalizarCondicoesPagamentoRapido", [](Screen& busca) {
+    auto& lista = dynamic_cast<ListView&>(*busca.control("lstLista"));
+    lista.userClickRow(1);
+    lista.userClickRow(1);
+  });
+  tela.userKey(Key::space);
+  EXPECT_EQ(tela.condicao.lCodigo, 2);
+  EXPECT_EQ(tela.txtCondPagCodigoInf.text(), "2");
+  EXPECT_EQ(tela.txtNumeroParcelas.text(), "3");
+  EXPECT_EQ(tela.txtIntervalo.text(), "30");
+  EXPECT_TRUE(tela.chkEntrada.checked());
+  EXPECT_EQ(tela.focused(), &tela.entidades.portador.caixa);
+}
+
+TEST_P(FaturasTest, SpaceMovesThroughTheLookupBoxes) {
+  TelaFaturas& tela = faturas();
+  const auto fechar = [](Screen& busca) { busca.userKey(Key::escape); };
+  tela.entidades.portador.caixa.setFocus();
+  host.expectScreen("frmLocalizarPortadoresRapido", fechar);
+  tela.userKey(Key::space);
+  if (lado.bVendedor) {
+    EXPECT_EQ(tela.focused(), &tela.entidades.vendedor->caixa);
+    host.expectScreen("frmLocalizarVendedoresRapido", fechar);
+    tela.userKey(Key::space);
+  }
+  EXPECT_EQ(tela.focused(), &tela.entidades.centroCusto.caixa);
+  host.expectScreen("frmLocalizarCentroCustoRapido", fechar);
+  tela.userKey(Key::space);
+  EXPECT_EQ(tela.focused(), &tela.entidades.centroCusto.caixa);
+}
+
+TEST_P(FaturasTest, TheFourControlsOfTheConditionActAsOne) {
+  for (const char* nome : {"txtCondPagCodigoInf", "txtNumeroParcelas", "txtIntervalo", "chkEntrada"}) {
+    escolherCondicao(tresComEntrada);
+    TelaFaturas& tela = faturas();
+    Control& controle = *tela.control(nome);
+    controle.setFocus();
+    host.expectScreen("frmLocalizarCondicoesPagamentoRapido", [](Screen& busca) { busca.userKey(Key::escape); });
+    tela.userKey(Key::space);
+    EXPECT_EQ(tela.focused(), &tela.entidades.portador.caixa) << nome;
+    controle.setFocus();
+    host.expectScreen("frmCadastroCondicoesPagamento", [](Screen& cadastro) { cadastro.userKey(Key::escape); });
+    tela.userKey(Key::insert);
+    EXPECT_EQ(tela.focused(), &controle) << nome;
+    EXPECT_EQ(tela.condicao.lCodigo, tresComEntrada.chave);
+    tela.userKey(Key::del);
+    EXPECT_EQ(tela.condicao.lCodigo, -1) << nome;
+    EXPECT_EQ(tela.txtCondPagCodigoInf.text() + tela.txtNumeroParcelas.text() + tela.txtIntervalo.text(), "");
+    EXPECT_FALSE(tela.chkEntrada.checked());
+  }
+}
+
+TEST_P(FaturasTest, DeleteEmptiesALookupBox) {
+  TelaFaturas& tela = digitarFatura("100,00");
+  for (CampoEntidade* entidade : {&tela.entidades.pessoa, &tela.entidades.portador, &tela.entidades.centroCusto}) {
+    entidade->caixa.setFocus();
+    tela.userKey(Key::del);
+    EXPECT_EQ(entidade->busca.lCodigo, -1);
+    EXPECT_EQ(entidade->caixa.text(), "");
+  }
+}
+
+TEST_P(FaturasTest, ARightClickShowsTheTitlesOfTheInvoice) {
+  const int outra = criarFatura("30,00");
+  const int chave = criarFatura("100,00", tresComEntrada, "10,00");
+  const std::vector<std::pair<const char*, std::vector<std::string>>> entradas{
+      {"mnuVerificarTitulos", {"000002/001", "000002/002", "000002/003"}},
+      {"mnuMostrarPagos", {"000002/001"}},
+      {"mnuMostrarNaoPagos", {"000002/002", "000002/003"}}};
+  ASSERT_NE(outra, chave);
+  for (const auto& [nome, codigos] : entradas) {
+    faturas().vMontarLista(0, {});
+    host.expectPopup("mnuPopUp", nome);
+    host.expectScreen(lado.titulos.sNome, [&](Screen& tela) {
+      EXPECT_EQ(primeiraColuna(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista), codigos) << nome;
+      tela.userKey(Key::escape);
+    });
+    faturas().lstLista.userClickRow(1, MouseButton::right);
+    host.verify();
+    EXPECT_EQ(faturas().lGetCodigo(), -1) << "the form is ready for a new invoice";
+  }
+  EXPECT_EQ(faturas().control("mnuPopUp")->name(), "mnuPopUp");
+}
+
+TEST_P(FaturasTest, ALeftClickAfterARightClickOpensNoMenu) {
+  criarFatura("30,00");
+  host.expectPopup("mnuPopUp", "");
+  faturas().lstLista.userClickRow(0, MouseButton::right);
+  faturas().lstLista.userClickRow(0);
+}
+
+INSTANTIATE_TEST_SUITE_P(Lados, FaturasTest, testing::Values(&ladoReceber), nomeDoLado);
+
+TEST(FaturasCliente, ColumnsOfTheList) {
+  Cenario cenario{ladoReceber(), &vRegistrarTelasDeTitulos};
+  std::vector<std::string> cabecalhos;
+  for (const ListColumn& coluna :
+       cenario.programa.telas().obter<frmCadastroFaturasCliente>("frmCadastroFaturasCliente").lstLista.columns())
+    cabecalhos.push_back(coluna.heading);
+  EXPECT_THAT(cabecalhos, ElementsAre("Nº da fatura", "Emissão", "Total da fatura", "Entrada",
+                                      "Código interno do cliente", "Cliente", "Código interno da condição de pagamento",
+                                      "Código Cond. Pag.", "Nº de parcelas", "Intervalo de venc.", "Com entrada",
+                                      "Código interno do portador", "Portador", "Código interno do vendedor",
+                                      "Vendedor", "Código interno do centro de custo", "Centro de custo"));
+}
+
+TEST(FaturasCliente, TheListsStatement) {
+  Cenario cenario{ladoReceber(), &vRegistrarTelasDeTitulos};
+  auto& tela = cenario.programa.telas().obter<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
+  EXPECT_EQ(
+      tela.sConsulta("WHERE lNumeroFatura = 1 "),
+      "SELECT lCentroCusto, (CentroCusto.sDescricao) AS CentroCusto, FaturasCliente.lCodigo, lNumeroFatura, "
+      "FORMAT(dtEmissao, 'dd/mm/yyyy') AS Emissao, FORMAT(fTotal, '#,##0.00') AS TotalFatura, FORMAT(fEntrada, "
+      "'#,##0.00') AS TotalEntrada, lCliente, (Clientes.sNome) AS Cliente, lCondicoesPagamento, "
+      "(CondicoesPagamento.btCodigoInf) AS CondPagCodigoInf, iNumeroParcelas, iIntervalo, IIF(bitEntrada = 0, 'Não', "
+      "'Sim') AS ComEntrada, lPortador, (Portadores.sNome) AS Portador, FaturasCliente.lVendedor, (Vendedores.sNome) "
+      "AS Vendedores FROM ((((FaturasCliente INNER JOIN Clientes ON FaturasCliente.lCliente = Clientes.lCodigo) INNER "
+      "JOIN CondicoesPagamento ON CondicoesPagamento.lCodigo = FaturasCliente.lCondicoesPagamento) INNER JOIN "
+      "Portadores ON Portadores.lCodigo = FaturasCliente.lPortador) INNER JOIN Vendedores ON Vendedores.lCodigo = "
+      "FaturasCliente.lVendedor) INNER JOIN CentroCusto ON CentroCusto.lCodigo = FaturasCliente.lCentroCusto WHERE "
+      "lNumeroFatura = 1  ORDER BY lNumeroFatura ");
+}
+
+}  // namespace
+}  // namespace fenvale

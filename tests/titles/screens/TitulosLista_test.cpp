@@ -1,0 +1,264 @@
+// The title screen: how it opens, what a row brings into the form, keys, interest, and the invoice it keeps showing.
+
+#include "store/services/ConfiguracoesPrograma.h"
+#include "titles/screens/CenarioDeTelas.h"
+
+namespace fenvale {
+namespace {
+
+class TitulosListaTest : public CenarioDeTelas {};
+
+TEST_P(TitulosListaTest, OpensOnTheOpenTitlesByCode) {
+  criarFatura("90,00", tresComEntrada, "30,00");
+  criarFatura("50,00", umaVez);
+  TelaTitulosCadastro& tela = titulos();
+  EXPECT_EQ(tela.caption(), lado.titulos.sLegenda);
+  EXPECT_EQ(tela.title(), lado.titulos.sTitulo);
+  EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("000001/002", "000001/003", "000002/001"));
+  EXPECT_EQ(tela.focused(), &tela.txtCodigoInf);
+  EXPECT_TRUE(tela.txtCodigoInf.empty()) << "no code is proposed";
+  EXPECT_EQ(tela.lGetCodigo(), -1);
+  EXPECT_THAT(tela.entidades.chaves(), testing::Each(-1));
+}
+
+TEST_P(TitulosListaTest, SearchesAndPrintWaitForTheirScreens) {
+  TelaTitulosCadastro& tela = titulos();
+  EXPECT_FALSE(tela.cmdLocalizar.enabled());
+  EXPECT_FALSE(tela.cmdLocalizarBaixa.enabled());
+  EXPECT_FALSE(tela.cmdEmitir.enabled());
+  for (const Key tecla : {Key::f5, Key::f6, Key::f7}) tela.userKey(tecla);
+}
+
+TEST_P(TitulosListaTest, ARowBringsTheTitleIntoTheForm) {
+  criarFatura("90,00");
+  cenario.executar("UPDATE " + lado.sTitulos +
+                   " SET fValorPago = 31.5, fJuros = 2.5, fDesconto = 1, lNF = 445, sObs = 'Pago em mãos', "
+                   "dtPagamento = #04/02/2026# WHERE sCodigoInf = '000001/001'");
+  const TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  EXPECT_EQ(tela.lGetCodigo(), 1);
+  EXPECT_EQ(tela.txtCodigoInf.text(), "000001/001");
+  EXPECT_EQ(formatDate(tela.dtEmissao.value()), "01/03/2026");
+  EXPECT_EQ(formatDate(tela.dtVencimento.value()), "31/03/2026");
+  EXPECT_EQ(formatDate(tela.dtPagamento.value()), "02/04/2026");
+  EXPECT_EQ(tela.txtTotal.value(), reais("90,00"));
+  EXPECT_EQ(tela.txtValor.value(), reais("30,00"));
+  EXPECT_EQ(tela.txtValorPago.value(), reais("31,50"));
+  EXPECT_EQ(tela.txtJuros.value(), reais("2,50"));
+  EXPECT_EQ(tela.txtDesconto.value(), reais("1,00"));
+  EXPECT_EQ(tela.txtNF.text(), "445");
+  EXPECT_EQ(tela.txtObs.text(), "Pago em mãos");
+  EXPECT_EQ(tela.entidades.pessoa.caixa.text(), "Açougue São João Ltda.");
+  EXPECT_EQ(tela.entidades.portador.caixa.text(), "Carteira");
+  EXPECT_EQ(tela.entidades.centroCusto.caixa.text(), "Loja");
+  EXPECT_THAT(tela.entidades.chaves(), testing::Each(1));
+  EXPECT_EQ(cenario.programa.configuracoes().lGetClickAnterior(), 1);
+}
+
+TEST_P(TitulosListaTest, AnOpenTitleShowsNoPaymentDateAndIsSettledToday) {
+  criarFatura("90,00");
+  const TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  EXPECT_EQ(formatDate(tela.dtPagamento.value()), "10/05/2026");
+}
+
+TEST_P(TitulosListaTest, NewGoesBackToTheOpenTitles) {
+  criarFatura("90,00", tresComEntrada, "30,00");
+  abrirTitulo("000001/001").userKey(Key::f2);
+  EXPECT_EQ(titulos().lGetCodigo(), -1);
+  EXPECT_TRUE(titulos().entidades.pessoa.caixa.empty());
+  EXPECT_THAT(primeiraColuna(titulos().lstLista), ElementsAre("000001/002", "000001/003"));
+}
+
+TEST_P(TitulosListaTest, SpaceMovesThroughTheLookupBoxes) {
+  TelaTitulosCadastro& tela = titulos();
+  const auto fechar = [](Screen& busca) { busca.userKey(Key::escape); };
+  tela.entidades.pessoa.caixa.setFocus();
+  host.expectScreen(lado.sBuscaPessoa, fechar);
+  tela.userKey(Key::space);
+  EXPECT_EQ(tela.focused(), &tela.entidades.portador.caixa);
+  host.expectScreen("frmLocalizarPortadoresRapido", fechar);
+  tela.userKey(Key::space);
+  if (lado.bVendedor) {
+    EXPECT_EQ(tela.focused(), &tela.entidades.vendedor->caixa);
+    host.expectScreen("frmLocalizarVendedoresRapido", fechar);
+    tela.userKey(Key::space);
+  }
+  EXPECT_EQ(tela.focused(), &tela.entidades.centroCusto.caixa);
+}
+
+TEST_P(TitulosListaTest, InsertOpensTheRegisterAndDeleteEmptiesTheBox) {
+  criarFatura("90,00");
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.entidades.portador.caixa.setFocus();
+  host.expectScreen("frmCadastroPortadores", [](Screen& cadastro) { cadastro.userKey(Key::escape); });
+  tela.userKey(Key::insert);
+  EXPECT_EQ(tela.focused(), &tela.entidades.portador.caixa);
+  EXPECT_EQ(tela.entidades.portador.busca.lCodigo, 1);
+  tela.userKey(Key::del);
+  EXPECT_EQ(tela.entidades.portador.busca.lCodigo, -1);
+  EXPECT_TRUE(tela.entidades.portador.caixa.empty());
+}
+
+TEST_P(TitulosListaTest, TheInvoiceShownStaysWithTheTickOn) {
+  criarFatura("90,00");
+  criarFatura("50,00", umaVez);
+  titulos().chkManterFatura.userClick();
+  abrirTitulo("000001/002").txtObs.userType("conferido");
+  host.expectBox(concluida);
+  titulos().userKey(Key::f3);
+  EXPECT_TRUE(titulos().chkManterFatura.checked());
+  EXPECT_THAT(primeiraColuna(titulos().lstLista), ElementsAre("000001/001", "000001/002", "000001/003"));
+}
+
+TEST_P(TitulosListaTest, WithoutTheTickTheOpenTitlesComeBack) {
+  criarFatura("90,00");
+  criarFatura("50,00", umaVez);
+  abrirTitulo("000001/002").txtObs.userType("conferido");
+  host.expectBox(concluida);
+  titulos().userKey(Key::f3);
+  EXPECT_THAT(primeiraColuna(titulos().lstLista), SizeIs(4));
+}
+
+TEST_P(TitulosListaTest, TheInvoiceThatIsPreviewedStaysWithoutTheTick) {
+  criarFatura("90,00");
+  criarFatura("50,00", umaVez);
+  titulos().vSetFaturaPreview(1);
+  for (const bool bManter : {false, true}) {
+    titulos().chkManterFatura.setChecked(bManter);
+    abrirTitulo("000002/001").txtObs.userType("conferido");
+    host.expectBox(concluida);
+    titulos().userKey(Key::f3);
+    EXPECT_THAT(primeiraColuna(titulos().lstLista), SizeIs(bManter ? 1 : 3)) << "the tick goes before the preview";
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Lados, TitulosListaTest, testing::Values(&ladoReceber), nomeDoLado);
+
+class TitulosReceberTest : public CenarioDeTelas {
+ protected:
+  frmCadastroTitulosReceber& receber() { return dynamic_cast<frmCadastroTitulosReceber&>(titulos()); }
+};
+
+TEST_P(TitulosReceberTest, ColumnsOfTheList) {
+  std::vector<std::string> cabecalhos;
+  for (const ListColumn& coluna : titulos().lstLista.columns()) cabecalhos.push_back(coluna.heading);
+  EXPECT_THAT(cabecalhos,
+              ElementsAre("Código", "Emissão", "Vencimento", "Pago", "Código interno do cliente", "Cliente",
+                          "Código interno do portador", "Portador", "Código interno do vendedor", "Vendedor",
+                          "Valor da fatura", "Valor do título", "Código interno do centro de custo", "Centro de custo",
+                          "Pagamento", "Valor pago", "Juros cobrado", "Desconto", "Nota fiscal", "Observação"));
+}
+
+TEST_P(TitulosReceberTest, TheListsStatement) {
+  EXPECT_EQ(
+      titulos().sConsulta(""),
+      "SELECT lCentroCusto, (CentroCusto.sDescricao) AS CentroCusto, TitulosReceber.lCodigo, sCodigoInf, "
+      "FORMAT(dtVencimento, 'dd/mm/yyyy') AS Vencimento, FORMAT(fValor, '#,##0.00') AS ValorTitulo, IIF(fValorPago > "
+      "0, FORMAT(dtPagamento, 'dd/mm/yyyy'), '') AS Pagamento, FORMAT(fValorPago, '#,##0.00') AS ValorPago, "
+      "FORMAT(fJuros, '#,##0.00') AS Juros, FORMAT(fDesconto, '#,##0.00') AS Desconto, lNF, sObs, IIF(fValorPago <= "
+      "0, 'Não', 'Sim') AS Pago, FORMAT(dtEmissao, 'dd/mm/yyyy') AS Emissao, FORMAT(fTotal, '#,##0.00') AS "
+      "ValorFatura, lCliente, (Clientes.sNome) AS Cliente, lPortador, (Portadores.sNome) AS Portador, "
+      "FaturasCliente.lVendedor, (Vendedores.sNome) AS Vendedores FROM ((((TitulosReceber INNER JOIN FaturasCliente ON "
+      "FaturasCliente.lCodigo = TitulosReceber.lFaturaCliente) INNER JOIN Clientes ON FaturasCliente.lCliente = "
+      "Clientes.lCodigo) INNER JOIN Portadores ON FaturasCliente.lPortador = Portadores.lCodigo) INNER JOIN "
+      "Vendedores ON FaturasCliente.lVendedor = Vendedores.lCodigo) INNER JOIN CentroCusto ON "
+      "FaturasCliente.lCentroCusto = CentroCusto.lCodigo WHERE (fValorPago <= 0)  ORDER BY sCodigoInf ");
+}
+
+TEST_P(TitulosReceberTest, TheRowsOfTheList) {
+  criarFatura("1.000,00", duasVezes);
+  pagarInteiro("000001/001", "500,00");
+  TelaTitulosCadastro& tela = titulos();
+  tela.vMontarLista(0, "WHERE TitulosReceber.lFaturaCliente = 1 ");
+  EXPECT_THAT(celulas(*tela.lstLista.item(0)),
+              ElementsAre("000001/001", "01/03/2026", "31/03/2026", "Sim", "1", "Açougue São João Ltda.", "1",
+                          "Carteira", "1", "Maria Aparecida", "1.000,00", "500,00", "1", "Loja", "10/05/2026", "500,00",
+                          "0,00", "0,00", "0", ""));
+  EXPECT_THAT(
+      celulas(*tela.lstLista.item(1)),
+      ElementsAre("000001/002", "01/03/2026", "30/04/2026", "Não", "1", "Açougue São João Ltda.", "1", "Carteira", "1",
+                  "Maria Aparecida", "1.000,00", "500,00", "1", "Loja", "", "0,00", "0,00", "0,00", "0", ""));
+  EXPECT_EQ(tela.lstLista.item(1)->key(), "000002");
+}
+
+TEST_P(TitulosReceberTest, ASearchsRowBringsItsDateWithIt) {
+  criarFatura("90,00");
+  ListView resultado(titulos(), "lstResultado", titulos().lstLista.columns());
+  const auto item = resultado.addItem("000002", "000001/002");
+  const std::vector<std::string> celulasDaBusca{"01/03/2026",
+                                                "30/04/2026",
+                                                "Não",
+                                                "1",
+                                                "Açougue São João Ltda.",
+                                                "1",
+                                                "Carteira",
+                                                "1",
+                                                "Maria Aparecida",
+                                                "90,00",
+                                                "30,00",
+                                                "1",
+                                                "Loja",
+                                                "30/04/2026",
+                                                "0,00",
+                                                "0,00",
+                                                "0,00",
+                                                "0",
+                                                ""};
+  for (std::size_t i = 0; i < celulasDaBusca.size(); ++i) item->setSubItem(i + 1, celulasDaBusca[i]);
+  receber().vSetTituloReceberBaixa(*item);
+  EXPECT_EQ(receber().lGetCodigo(), 2);
+  EXPECT_EQ(formatDate(receber().dtPagamento.value()), "30/04/2026");
+  EXPECT_EQ(cenario.programa.configuracoes().lGetClickAnterior(), 2);
+  receber().txtValorPago.userType("30,00");
+  host.expectBox(perguntaPagamento("30,00"), BoxAnswer::yes);
+  host.expectBox(concluida);
+  receber().userKey(Key::f3);
+  EXPECT_EQ(cenario.titulos(1).at(1), "000001/002 30/04/2026 30,00 pago 30,00");
+}
+
+TEST_P(TitulosReceberTest, InterestOfAnOverdueTitle) {
+  criarFatura("1.000,00", umaVez);
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.txtDesconto.userType("0,80");
+  tela.cmdCalcularJuros->userClick();  // 40 days late
+  EXPECT_EQ(tela.txtJuros.value(), reais("60,80"));
+  EXPECT_EQ(tela.txtValorPago.value(), reais("1.060,00"));
+  EXPECT_EQ(cenario.titulos(1).at(0), "000001/001 31/03/2026 1.000,00 pago 0,00") << "the button saves nothing";
+}
+
+TEST_P(TitulosReceberTest, ATitleThatIsNotDueKeepsItsInterestAndIsToBePaidWithIt) {
+  criarFatura("100,00", umaVez);
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.dtVencimento.userType("10/05/2026");
+  tela.txtJuros.userType("3,00");
+  tela.txtDesconto.userType("1,00");
+  host.expectBox(aviso("Este título ainda não venceu, portanto os juros não podem ser calculados."));
+  tela.cmdCalcularJuros->userClick();
+  EXPECT_EQ(tela.txtJuros.value(), reais("3,00"));
+  EXPECT_EQ(tela.txtValorPago.value(), reais("102,00"));
+}
+
+TEST_P(TitulosReceberTest, InterestBeyondAllBoundsIsReported) {
+  criarFatura("100,00", umaVez);
+  abrirTitulo("000001/001").dtVencimento.setValue(data("10/05/2026") - std::chrono::days(1'000'000));
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  titulos().cmdCalcularJuros->userClick();
+  host.verify();
+  EXPECT_THAT(cenario.programa.pasta().ler("Erros/" + cenario.programa.pasta().nomes("Erros").at(0)),
+              testing::HasSubstr("cmdCalcularJuros_Click"));
+}
+
+TEST_P(TitulosReceberTest, TheCustomersTitlesAreReachedFromTheCustomer) {
+  criarFatura("90,00");
+  Screen& clientes = carregada<Screen>("frmCadastroClientes");
+  host.expectPopup("mnuPopUp", "mnuVerificarTitulos");
+  host.expectScreen("frmCadastroTitulosReceber", [](Screen& tela) {
+    EXPECT_THAT(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista.items(), SizeIs(3));
+    tela.userKey(Key::escape);
+  });
+  dynamic_cast<TelaCadastro&>(clientes).lstLista.userClickRow(0, MouseButton::right);
+}
+
+INSTANTIATE_TEST_SUITE_P(Receber, TitulosReceberTest, testing::Values(&ladoReceber), nomeDoLado);
+
+}  // namespace
+}  // namespace fenvale
