@@ -108,8 +108,7 @@ class Cenario {
     const std::string codigo = std::to_string(pessoas_);
     executar(
         "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
-        "lCidadeEntrega, "
-        "lCidadeCobranca) VALUES (" +
+        "lCidadeEntrega, lCidadeCobranca) VALUES (" +
         codigo + ", '" + nome + "', 0, #01/01/1980#, 1, 1, 1, 1, 1)");
     executar("INSERT INTO Fornecedores (lCodigoInf, sNome, lCategoria, lCidade, lBanco) VALUES (" + codigo + ", '" +
              nome + "', 1, 1, 1)");
