@@ -68,15 +68,22 @@ void ListView::clear() {
 
 void ListView::sort(std::size_t column, bool ascending,
                     const std::function<int(std::string_view, std::string_view)>& compare) {
-  const auto textOf = [column](const std::shared_ptr<ListItem>& item) -> const std::string& {
+  sortColumn_ = static_cast<int>(column);
+  sortAscending_ = ascending;
+  sortCompare_ = compare;
+  sortAgain();
+}
+
+void ListView::sortAgain() {
+  if (sortColumn_ < 0) return;
+  const auto textOf =
+      [column = static_cast<std::size_t>(sortColumn_)](const std::shared_ptr<ListItem>& item) -> const std::string& {
     return column == 0 ? item->text() : item->subItem(column);
   };
   std::stable_sort(items_.begin(), items_.end(), [&](const auto& first, const auto& second) {
-    const int order = compare(textOf(first), textOf(second));
-    return ascending ? order < 0 : order > 0;
+    const int order = sortCompare_(textOf(first), textOf(second));
+    return sortAscending_ ? order < 0 : order > 0;
   });
-  sortColumn_ = static_cast<int>(column);
-  sortAscending_ = ascending;
   changed(Aspect::items);
 }
 

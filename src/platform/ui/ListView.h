@@ -81,6 +81,8 @@ class ListView final : public Control {
   /// Sorts the rows by the text of a 0-based column. Equal rows keep their sequence. `compare` answers below, equal or
   /// above 0 for two texts.
   void sort(std::size_t column, bool ascending, const std::function<int(std::string_view, std::string_view)>& compare);
+  /// Rows that came after the sort take their places; nothing on a list that was never sorted.
+  void sortAgain();
   /// The 0-based column the rows are sorted by, -1 when unsorted, and the direction, for the mark in the heading.
   int sortColumn() const { return sortColumn_; }
   bool sortAscending() const { return sortAscending_; }
@@ -107,6 +109,7 @@ class ListView final : public Control {
   ListItemReference selected_;
   int sortColumn_ = -1;
   bool sortAscending_ = true;
+  std::function<int(std::string_view, std::string_view)> sortCompare_;
 };
 
 }  // namespace fenvale

@@ -48,6 +48,10 @@ void TelaEscolha::cmdLocalizar_Click() try {
 
 void TelaEscolha::vMontarLista(std::int16_t iInicio) { vPreencherLista(iInicio, sConsulta()); }
 
+void TelaEscolha::vMostrarAPartirDe(std::int16_t iInicio) try { vMontarLista(iInicio); } catch (const Error& falha) {
+  vRegistrarFalha(falha, "vMontarLista", 2);
+}
+
 void TelaEscolha::vClicarLinha(const std::shared_ptr<ListItem>& item) try {
   ConfiguracoesPrograma& configuracoes = contexto().configuracoes();
   const std::int32_t lChave = lCodigoDaChave(item->key());

@@ -27,7 +27,7 @@ class TelaEscolha : public TelaPaginada {
 
   void vMontarTela(std::vector<LayoutNode> formulario, const std::vector<Control*>& comandos);
   void onLoad() override;
-  void vMostrarAPartirDe(std::int16_t iInicio) override { vMontarLista(iInicio); }
+  void vMostrarAPartirDe(std::int16_t iInicio) override;
   void vClicarLinha(const std::shared_ptr<ListItem>& item) override;
   const char* sNomeInserir() const override { return "vInserirList"; }
 

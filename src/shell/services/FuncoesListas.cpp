@@ -98,6 +98,7 @@ void Funcoes::vPreencherPagina(TelaListaPaginada& frm, std::int16_t iInicio, Rec
     scr.setMaximum(roundToInt16(static_cast<double>(lRegistros) / lTamanho));
     scr.setValue(roundToInt16(static_cast<double>(iInicio) / lTamanho));
   }
+  frm.lstDaLista().sortAgain();
   scr.setSummary(sResumo(scr.value() + 1, lRegistros));
 
   configuracoes.vSetMostrarNovaPagina(true);

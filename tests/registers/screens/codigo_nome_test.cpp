@@ -238,6 +238,26 @@ TEST_P(CodigoNome, AnyOtherFailureIsReportedAndTheFormStays) {
   tela.userKey(Key::f3);
   EXPECT_EQ(tela.txtNome.text(), "Sul");
   EXPECT_EQ(tela.state(), Screen::State::loaded);
+  const auto relatos = programa.pasta().nomes("Erros");
+  ASSERT_EQ(relatos.size(), 1u);
+  const std::string sRelato = fromWindows1252(programa.pasta().ler("Erros/" + relatos.front()));
+  EXPECT_THAT(sRelato, testing::HasSubstr(std::string("Formulário: ") + caso.sTela + "\r\n"));
+  EXPECT_THAT(sRelato, testing::HasSubstr("Função: cmdSalvar_Click\r\n"));
+}
+
+TEST_P(CodigoNome, TheRightToSearchIsMissedOnceByEveryFill) {
+  linha(1, "Norte");
+  recarregar();
+  carregar(0);
+  entrarSem("bPoderPesquisar");
+  host.expectBox(informacao("Operação concluída."));
+  host.expectBox(semPermissao());
+  tela.userKey(Key::f3);
+  EXPECT_EQ(tela.lGetCodigo(), -1) << "stored, and the form cleared";
+
+  host.expectBox(semPermissao());
+  recarregar();
+  EXPECT_THAT(tela.lstLista.items(), IsEmpty());
 }
 
 TEST_P(CodigoNome, EveryCommandAsksForItsRight) {

@@ -128,6 +128,18 @@ TEST_F(Paginas, ColumnClicksSortUpAndDownInTurnWhicheverTheColumn) {
   EXPECT_FALSE(tela.lstLista.sortAscending());
 }
 
+TEST_F(Paginas, ASortedListStaysSortedPageByPage) {
+  auto& tela = comVendedores(25);
+  tamanhoDaPagina(10);
+  tela.userKey(Key::f2);
+  tela.lstLista.userClickColumn(2);
+  tela.lstLista.userClickColumn(2);
+  EXPECT_EQ(tela.lstLista.item(0)->text(), "10");
+  tela.scrPaginas.userMove(1);
+  EXPECT_EQ(tela.lstLista.item(0)->text(), "20") << "only the rows of the page are sorted";
+  EXPECT_EQ(tela.lstLista.item(9)->text(), "11");
+}
+
 TEST_F(Paginas, EachScreenAlternatesByItself) {
   vendedores(2);
   auto& tela = abrirCadastro("frmCadastroVendedores");
@@ -162,6 +174,21 @@ TEST_F(Paginas, AWidthsFileOfAnotherLengthIsAppliedAsFarAsItGoes) {
   auto& outra = abrirCadastro("frmCadastroVendedores");
   EXPECT_EQ(outra.lstLista.columnWidth(1), 600);
   EXPECT_EQ(outra.lstLista.columnWidth(2), 700);
+}
+
+TEST_F(Paginas, WhatAClauseSelectedBeforeTheShowingIsWhatIsShown) {
+  vendedores(5);
+  programa.telas().obter<TelaComLista>("frmCadastroVendedores").vMontarLista(0, "WHERE lCodigoInf > 3 ");
+  auto& tela = abrirCadastro("frmCadastroVendedores");
+  EXPECT_THAT(listados(tela.lstLista), ElementsAre("4|Vendedor 004", "5|Vendedor 005"));
+}
+
+TEST_F(Paginas, ALongPageShowsItsRowsOnceAndNothingElse) {
+  tamanhoDaPagina(1000);
+  auto& tela = comVendedores(3);
+  EXPECT_EQ(tela.lstLista.items().size(), 3u);
+  EXPECT_EQ(tela.scrPaginas.maximum(), 0);
+  EXPECT_EQ(tela.scrPaginas.summary(), "Página 1 · 3 registros");
 }
 
 TEST_F(Paginas, ARowClickLoadsTheTextsOfTheListNotOfTheStore) {
