@@ -1,0 +1,161 @@
+// The registers in real windows, by keyboard alone.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QtWidgets>
+
+#include "app/Registro.h"
+#include "gui/support/LookChecks.h"
+#include "platform/sql/Store.h"
+#include "platform/ui/Boxes.h"
+#include "platform/ui/qt/Probe.h"
+#include "platform/ui/qt/QtHost.h"
+#include "registers/screens/TelaCadastro.h"
+#include "registers/screens/frmCadastroClientes.h"
+#include "shell/services/Telas.h"
+#include "store/services/ConfiguracoesPrograma.h"
+#include "store/services/DBConectar.h"
+#include "store/services/Empresas.h"
+#include "support/ProgramaDeTeste.h"
+
+namespace fenvale::qt {
+namespace {
+
+using testing::IsEmpty;
+
+HostOptions opcoes() {
+  HostOptions options;
+  options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
+  options.scheme = Scheme::light;
+  options.immediate = true;
+  return options;
+}
+
+/// Whoever opens a search, and lists nothing.
+struct Chamadora final : Screen, TelaComLista {
+  explicit Chamadora(UiHost& quem) : Screen(quem, "frmChamadora") {}
+  void vMontarLista(std::int16_t, const std::string&) override {}
+};
+
+/// The whole program over real windows, with a company open.
+class CadastrosEmJanelas : public testing::Test, protected AmbienteDeTeste {
+ protected:
+  CadastrosEmJanelas() {
+    moldes.abrirEmpresa();
+    moldes.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (1, 'Atacado')");
+    moldes.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (2, 'Varejo')");
+    for (int i = 1; i <= 25; ++i)
+      moldes.executar("INSERT INTO Vendedores (lCodigoInf, sNome) VALUES (" + std::to_string(i) + ", 'Vendedor')");
+    moldes.dbEmpresa().Dados().close();
+    moldes.dbConectar().Dados().close();
+    programa.dbConectar().Dados().open();
+    programa.empresas().bSetEmpresa(1, "loja.MDB", moldes.pasta().caminho() + "/", false);
+    programa.configuracoes().vSetTamanhoPagina(10);
+  }
+
+  Screen& abrir(const std::string& sTela) {
+    Screen& tela = programa.telas().obter(sTela);
+    host.show(tela);
+    host.doEvents();
+    return tela;
+  }
+  void tecla(int iTecla) {
+    press(host, iTecla);
+    host.throwKept();
+  }
+  void escrever(std::string_view sTexto) {
+    type(host, sTexto);
+    host.throwKept();
+  }
+
+  ProgramaDeTeste moldes;
+  QtHost host{opcoes()};
+  Programa programa{{moldes.pasta().caminho(), host, relogioDoTeste, processoDoTeste, correioDoTeste, redeDoTeste,
+                     impressorasDoTeste},
+                    vRegistrarTelas};
+};
+
+TEST_F(CadastrosEmJanelas, NothingIsCutHiddenOrOutOfReach) {
+  for (const char* sTela :
+       {"frmCadastroCategorias", "frmCadastroVendedores", "frmCadastroPortadores", "frmCadastroCentroCusto",
+        "frmCadastroCondicoesPagamento", "frmCadastroClientes", "frmLocalizarBancos"}) {
+    Screen& tela = abrir(sTela);
+    EXPECT_THAT(faultsOf(host, tela), IsEmpty()) << sTela;
+    tela.unload();
+  }
+  Chamadora chamadora(host);
+  for (const char* sTela :
+       {"frmLocalizarCategorias", "frmLocalizarVendedor", "frmLocalizarPortadores", "frmLocalizarCentroCusto",
+        "frmLocalizarCondicoesPagamento", "frmLocalizarClientes", "frmLocalizarCategoriasRapido",
+        "frmLocalizarVendedoresRapido", "frmLocalizarClientesRapido", "frmLocalizarPortadoresRapido",
+        "frmLocalizarCentroCustoRapido", "frmLocalizarCondicoesPagamentoRapido"}) {
+    whenOpened(host, [&] {
+      Screen& busca = programa.telas().obter(sTela);
+      EXPECT_THAT(faultsOf(host, busca), IsEmpty()) << sTela;
+      busca.unload();
+    });
+    programa.telas().obter<TelaBusca>(sTela).vLocalizar(chamadora);
+  }
+}
+
+TEST_F(CadastrosEmJanelas, ARecordIsTypedAndStored) {
+  auto& tela = dynamic_cast<TelaCadastro&>(abrir("frmCadastroCategorias"));
+  tecla(Qt::Key_Return);
+  escrever("Padaria");
+  whenOpened(host, [&] { press(host, Qt::Key_Return); });
+  tecla(Qt::Key_F3);
+  ASSERT_EQ(tela.lstLista.items().size(), 3u);
+  EXPECT_EQ(tela.lstLista.item(2)->subItem(1), "Padaria");
+  tecla(Qt::Key_Escape);
+  EXPECT_EQ(tela.state(), Screen::State::unloaded);
+}
+
+TEST_F(CadastrosEmJanelas, ACategoryIsPickedByKeys) {
+  auto& tela = dynamic_cast<frmCadastroClientes&>(abrir("frmCadastroClientes"));
+  tecla(Qt::Key_Tab);
+  ASSERT_TRUE(tela.txtCategoria.hasFocus());
+  whenOpened(host, [&] {
+    escrever("var");
+    tecla(Qt::Key_F6);
+    escrever("e");  // the box still has the keyboard after the fill
+    EXPECT_EQ(dynamic_cast<TextControl&>(*host.activeScreen()->control("txtNome")).text(), "vare");
+    tecla(Qt::Key_Tab);
+    tecla(Qt::Key_Space);
+    tecla(Qt::Key_Space);
+  });
+  tecla(Qt::Key_Space);
+  EXPECT_EQ(tela.txtCategoria.text(), "Varejo");
+  EXPECT_TRUE(tela.txtNome.hasFocus());
+  tela.unload();
+}
+
+TEST_F(CadastrosEmJanelas, ARefusalBringsTheTabOfItsBoxToTheFront) {
+  auto& tela = dynamic_cast<frmCadastroClientes&>(abrir("frmCadastroClientes"));
+  tela.txtMae.setFocus();
+  auto* const abas = windowOf(tela)->findChild<QTabWidget*>();
+  ASSERT_NE(abas, nullptr);
+  EXPECT_EQ(abas->currentIndex(), 1);
+  whenOpened(host, [&] { press(host, Qt::Key_Return); });
+  tecla(Qt::Key_F3);
+  EXPECT_EQ(abas->currentIndex(), 0);
+  escrever("Zulmira");
+  EXPECT_EQ(tela.txtNome.text(), "Zulmira");
+  tela.unload();
+}
+
+TEST_F(CadastrosEmJanelas, PagesAreTurnedByTheArrowsAndTheSelectorKeepsTheFocus) {
+  auto& tela = dynamic_cast<TelaCadastro&>(abrir("frmCadastroVendedores"));
+  tela.scrPaginas.setFocus();
+  tecla(Qt::Key_Right);
+  EXPECT_EQ(tela.lstLista.item(0)->text(), "11");
+  tecla(Qt::Key_Right);
+  EXPECT_EQ(tela.lstLista.item(0)->text(), "21");
+  tecla(Qt::Key_Left);
+  EXPECT_EQ(tela.lstLista.item(0)->text(), "11");
+  EXPECT_TRUE(tela.scrPaginas.hasFocus());
+  tela.unload();
+}
+
+}  // namespace
+}  // namespace fenvale::qt
