@@ -8,25 +8,36 @@ namespace fenvale {
 namespace {
 
 CampoEntidade::Descricao pessoaDoLado(const Lado& lado, const std::string& sInforme) {
-  return {"txt" + lado.sPessoa, lado.sPessoa, "cmdNovo" + lado.sPessoa, lado.sCadastroPessoa, lado.sBuscaPessoa,
-          lado.sChavePessoa,    sInforme};
+  return {"txt" + lado.sPessoa, lado.sPessoa,      lado.sAcessoPessoa, "cmdNovo" + lado.sPessoa,
+          lado.sCadastroPessoa, lado.sBuscaPessoa, lado.sChavePessoa,  sInforme};
 }
 
 CampoEntidade::Descricao portadorDaFatura() {
-  return {
-      "txtPortador", "Portador",           "cmdNovoPortador", "frmCadastroPortadores", "frmLocalizarPortadoresRapido",
-      "lPortador",   "Informe o portador."};
+  return {"txtPortador",
+          "Portador",
+          "P",
+          "cmdNovoPortador",
+          "frmCadastroPortadores",
+          "frmLocalizarPortadoresRapido",
+          "lPortador",
+          "Informe o portador."};
 }
 
 CampoEntidade::Descricao vendedorDaFatura() {
-  return {
-      "txtVendedor", "Vendedor",           "cmdNovoVendedor", "frmCadastroVendedores", "frmLocalizarVendedoresRapido",
-      "lVendedor",   "Informe o vendedor."};
+  return {"txtVendedor",
+          "Vendedor",
+          "n",
+          "cmdNovoVendedor",
+          "frmCadastroVendedores",
+          "frmLocalizarVendedoresRapido",
+          "lVendedor",
+          "Informe o vendedor."};
 }
 
 CampoEntidade::Descricao centroCustoDaFatura() {
   return {"txtCentroCusto",
           "Centro de custo",
+          "u",
           "cmdNovoCentroCusto",
           "frmCadastroCentroCusto",
           "frmLocalizarCentroCustoRapido",
@@ -44,6 +55,11 @@ CampoEntidade::CampoEntidade(Screen& tela, Contexto& contexto, Descricao descric
             {descricao_.sBusca, proximo, "cmdBusca" + descricao_.sCaixa.substr(3),
              "Localizar " + toLower(descricao_.sRotulo)}) {
   busca.vSetCadastro(descricao_.sCadastro, "Cadastrar " + toLower(descricao_.sRotulo), cmdNovo);
+}
+
+LayoutNode CampoEntidade::campo(int largura) {
+  std::string sRotulo = descricao_.sRotulo;
+  return busca.campoPrincipal(sRotulo.insert(sRotulo.find(descricao_.sAcesso), "&"), largura);
 }
 
 EntidadesFatura::EntidadesFatura(Screen& tela, Contexto& contexto, const Lado& lado, const std::string& sInformePessoa,
@@ -91,14 +107,14 @@ std::vector<ColunaLista> EntidadesFatura::colunas(CampoEntidade& entidade, const
 }
 
 std::vector<ColunaLista> EntidadesFatura::colunasPessoa(const Lado& lado) {
-  return colunas(pessoa, lado.sPessoaMinuscula, lado.sPessoa, 3600);
+  return colunas(pessoa, lado.sPessoaMinuscula, lado.sPessoa, 3000);
 }
 
-std::vector<ColunaLista> EntidadesFatura::colunasPortador() { return colunas(portador, "portador", "Portador", 2000); }
+std::vector<ColunaLista> EntidadesFatura::colunasPortador() { return colunas(portador, "portador", "Portador", 1800); }
 
 std::vector<ColunaLista> EntidadesFatura::colunasVendedor() {
   if (!vendedor) return {};
-  return colunas(*vendedor, "vendedor", "Vendedores", 2200);
+  return colunas(*vendedor, "vendedor", "Vendedores", 1900);
 }
 
 std::vector<ColunaLista> EntidadesFatura::colunasCentroCusto() {

@@ -22,6 +22,7 @@ class CampoEntidade {
   struct Descricao {
     std::string sCaixa;     ///< "txtPortador"
     std::string sRotulo;    ///< "Portador"
+    std::string sAcesso;    ///< the letter of its access key, in the label
     std::string sNovo;      ///< "cmdNovoPortador"
     std::string sCadastro;  ///< "frmCadastroPortadores"
     std::string sBusca;     ///< "frmLocalizarPortadoresRapido"
@@ -40,7 +41,7 @@ class CampoEntidade {
   CampoBusca busca;
 
   const Descricao& descricao() const { return descricao_; }
-  LayoutNode campo(int largura) { return busca.campoPrincipal("&" + descricao_.sRotulo, largura); }
+  LayoutNode campo(int largura);
 };
 
 class EntidadesFatura {

@@ -52,17 +52,17 @@ TelaFaturas::TelaFaturas(Contexto& contexto, const Lado& lado)
 }
 
 std::vector<ColunaLista> TelaFaturas::colunasDaLista() {
-  std::vector<ColunaLista> colunas{{"Nº da fatura", 1300, Align::right, "lNumeroFatura", txtNumeroFatura},
-                                   {"Emissão", 1250, Align::centre, "Emissao", dtEmissao},
+  std::vector<ColunaLista> colunas{{"Nº da fatura", 1500, Align::right, "lNumeroFatura", txtNumeroFatura},
+                                   {"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
                                    {"Total da fatura", 1600, Align::right, "TotalFatura", txtTotal},
                                    {"Entrada", 1400, Align::right, "TotalEntrada", txtEntrada}};
   vJuntar(colunas, entidades.colunasPessoa(lado_));
   vJuntar(colunas,
           {{"Código interno da condição de pagamento", 0, Align::left, "lCondicoesPagamento", condicao.lCodigo},
-           {"Código Cond. Pag.", 1800, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
-           {"Nº de parcelas", 1500, Align::right, "iNumeroParcelas", txtNumeroParcelas},
-           {"Intervalo de venc.", 1700, Align::right, "iIntervalo", txtIntervalo},
-           {"Com entrada", 1300, Align::centre, "ComEntrada", chkEntrada}});
+           {"Código Cond. Pag.", 1950, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
+           {"Nº de parcelas", 1650, Align::right, "iNumeroParcelas", txtNumeroParcelas},
+           {"Intervalo de venc.", 1950, Align::right, "iIntervalo", txtIntervalo},
+           {"Com entrada", 1560, Align::centre, "ComEntrada", chkEntrada}});
   vJuntar(colunas, entidades.colunasPortador());
   vJuntar(colunas, entidades.colunasVendedor());
   vJuntar(colunas, entidades.colunasCentroCusto());
@@ -74,11 +74,11 @@ void TelaFaturas::vMontarFormulario() {
   if (entidades.vendedor) ultima.push_back(entidades.vendedor->campo(8));
   ultima.push_back(entidades.centroCusto.campo(cresce));
   vMontarTela({linha({campo("Nº da &fatura", txtNumeroFatura, 4), campo("&Emissão", dtEmissao, 4),
-                      campo("&Total da fatura", txtTotal, 4), campo("E&ntrada", txtEntrada, 4),
+                      campo("&Total da fatura", txtTotal, 4), campo("Entr&ada", txtEntrada, 4),
                       entidades.pessoa.campo(cresce)}),
                quadro("Condição de pagamento",
-                      {linha({condicao.campoPrincipal("Código", 6), campo("Nº de parcelas", txtNumeroParcelas, 5),
-                              campo("Intervalo de venc.", txtIntervalo, 5), solto(chkEntrada)})}),
+                      {linha({condicao.campoPrincipal("&Código", 6), campo("Nº de pa&rcelas", txtNumeroParcelas, 5),
+                              campo("&Intervalo de venc.", txtIntervalo, 5), solto(chkEntrada)})}),
                linha(std::move(ultima))});
   setPreferredSize(24, 36);
 }

@@ -28,7 +28,7 @@ class TelaFaturas : public TelaCadastro,
   LookupBox txtCondPagCodigoInf{*this, "txtCondPagCodigoInf"};
   LookupBox txtNumeroParcelas{*this, "txtNumeroParcelas"};
   LookupBox txtIntervalo{*this, "txtIntervalo"};
-  CheckBox chkEntrada{*this, "chkEntrada", "Com entrada"};
+  CheckBox chkEntrada{*this, "chkEntrada", "C&om entrada"};
   Button cmdNovaCondicaoPagamento{*this, "cmdNovaCondicaoPagamento", "", "mais"};
 
   EntidadesFatura entidades;

@@ -49,22 +49,22 @@ TelaTitulosCadastro::TelaTitulosCadastro(Contexto& contexto, const Lado& lado)
 }
 
 std::vector<ColunaLista> TelaTitulosCadastro::colunasDaLista() {
-  std::vector<ColunaLista> colunas{{"Código", 1500, Align::left, "sCodigoInf", txtCodigoInf}};
+  std::vector<ColunaLista> colunas{{"Código", 1700, Align::left, "sCodigoInf", txtCodigoInf}};
   if (txtFilial) colunas.push_back({"Filial", 800, Align::left, "sFilial", *txtFilial});
-  vJuntar(colunas, {{"Emissão", 1250, Align::centre, "Emissao", dtEmissao},
-                    {"Vencimento", 1250, Align::centre, "Vencimento", dtVencimento},
+  vJuntar(colunas, {{"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
+                    {"Vencimento", 1560, Align::centre, "Vencimento", dtVencimento},
                     {"Pago", 800, Align::centre, "Pago"}});
   vJuntar(colunas, entidades.colunasPessoa(lado_));
   vJuntar(colunas, entidades.colunasPortador());
   vJuntar(colunas, entidades.colunasVendedor());
-  vJuntar(colunas, {{"Valor da fatura", 1600, Align::right, "ValorFatura", txtTotal},
-                    {"Valor do título", 1600, Align::right, "ValorTitulo", txtValor}});
+  vJuntar(colunas, {{"Valor da fatura", 1750, Align::right, "ValorFatura", txtTotal},
+                    {"Valor do título", 1750, Align::right, "ValorTitulo", txtValor}});
   vJuntar(colunas, entidades.colunasCentroCusto());
-  vJuntar(colunas, {{"Pagamento", 1250, Align::centre, "Pagamento"},
+  vJuntar(colunas, {{"Pagamento", 1560, Align::centre, "Pagamento"},
                     {"Valor pago", 1500, Align::right, "ValorPago", txtValorPago},
-                    {"Juros cobrado", 1500, Align::right, "Juros", txtJuros},
+                    {"Juros cobrado", 1650, Align::right, "Juros", txtJuros},
                     {"Desconto", 1400, Align::right, "Desconto", txtDesconto},
-                    {"Nota fiscal", 1300, Align::right, "lNF", txtNF},
+                    {"Nota fiscal", 1400, Align::right, "lNF", txtNF},
                     {"Observação", 3600, Align::left, "sObs", txtObs}});
   return colunas;
 }
@@ -86,7 +86,7 @@ void TelaTitulosCadastro::vMontarFormulario() {
   if (cmdCalcularJuros) pagamento.push_back(solto(*cmdCalcularJuros));
 
   vMontarTela({quadro("Fatura", {linha({campo("&Emissão", dtEmissao, 4), entidades.pessoa.campo(cresce),
-                                        entidades.portador.campo(7), campo("Valor da fatura", txtTotal, 4)}),
+                                        entidades.portador.campo(7), campo("Valor da fatu&ra", txtTotal, 4)}),
                                  linha(std::move(segunda))}),
                quadro("Título", {linha(std::move(titulo)), linha(std::move(pagamento))})},
               {&cmdLocalizarBaixa}, {solto(chkManterFatura)});

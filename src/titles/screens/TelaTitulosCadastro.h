@@ -33,7 +33,7 @@ class TelaTitulosCadastro : public TelaCadastro,
   MoneyBox txtJuros{*this, "txtJuros"};
   MoneyBox txtDesconto{*this, "txtDesconto"};
   MoneyBox txtValorPago{*this, "txtValorPago"};
-  CheckBox chkManterFatura{*this, "chkManterFatura", "Após salvar ou excluir, manter os títulos da fatura atual"};
+  CheckBox chkManterFatura{*this, "chkManterFatura", "Após salvar ou excluir, &manter os títulos da fatura atual"};
   Button cmdLocalizarBaixa{*this, "cmdLocalizarBaixa", "Baixa", "baixa", Key::f7};
   const std::unique_ptr<TextBox> txtFilial;        ///< on the side with branches
   const std::unique_ptr<Button> cmdCalcularJuros;  ///< on the side with interest

@@ -33,6 +33,7 @@ struct Lado {
   bool bJuros;     ///< interest can be worked out
 
   std::string sPessoa;               ///< "Cliente": in the names of controls, as label and as heading
+  std::string sAcessoPessoa;         ///< the letter of that label's access key
   std::string sPessoaMinuscula;      ///< "cliente": within a sentence
   std::string sInformePessoaFatura;  ///< what the invoice screen says when none was chosen
   std::string sInformePessoaTitulo;  ///< what the title screen says
