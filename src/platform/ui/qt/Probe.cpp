@@ -56,7 +56,6 @@ void click(Control& control, Qt::MouseButton button) {
 void clickRow(Control& list, int row, Qt::MouseButton button) {
   auto* const view = qobject_cast<QAbstractItemView*>(widgetOf(list));
   if (view == nullptr) return;
-  QCoreApplication::processEvents();
   const auto* const tree = qobject_cast<const QTreeView*>(view);
   int column = 0;
   while (tree != nullptr && column + 1 < view->model()->columnCount() && tree->isColumnHidden(column)) ++column;

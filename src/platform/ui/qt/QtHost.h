@@ -60,6 +60,8 @@ class QtHost final : public QObject, public UiHost {
 
   /// Runs a call into a screen from an event of the toolkit. What it throws is kept for the wait below it.
   void enter(const std::function<void()>& call);
+  /// A command is letting pending events run: nothing of the person's may come in now.
+  bool letsEventsThrough() const { return !waits_.empty() && waits_.back() == nullptr; }
   /// Throws a failure that was kept while no wait was there to throw it.
   void throwKept();
 

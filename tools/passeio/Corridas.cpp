@@ -1,0 +1,350 @@
+#include "passeio/Corridas.h"
+
+#include <Qt>
+#include <cstdio>
+#include <filesystem>
+
+#include "passeio/Guia.h"
+#include "passeio/Retratos.h"
+#include "platform/os/Process.h"
+#include "platform/sql/Store.h"
+#include "shell/services/Contexto.h"
+#include "store/services/DBConectar.h"
+
+namespace fenvale::passeio {
+namespace {
+
+constexpr auto aviso = BoxStyle::exclamation;
+constexpr auto informacao = BoxStyle::information;
+constexpr auto critica = BoxStyle::critical;
+constexpr const char* concluida = "Operação concluída.";
+constexpr const char* atualizado =
+    "Banco de Dados atualizado.\r\nExecute o programa novamente para concluir a atualização.";
+constexpr const char* senha = "d'água";
+
+std::string legendaDaEmpresa(const Contexto& programa) {
+  return "Gestor Fenvale - Versão ZENIT   -     Empresa: Loja.MDB     -     Caminho: " +
+         programa.sGetCaminhoAplicacao() + "/Empresas/";
+}
+
+void entrar(Guia& guia) {
+  guia.tela("frmLogin");
+  guia.escolher("cmbLogin", "ADMINISTRADOR");
+  guia.preencher({{"txtSenha", senha}});
+  guia.fotografar("login");
+  guia.tecla(Qt::Key_F3);
+}
+
+void sair(Guia& guia) {
+  guia.tela("frmMDIPrincipal");
+  guia.espereFim(0);
+  guia.menu("mnuSair");
+}
+
+/// F3, the word of success, and what the list then holds.
+void salvar(Guia& guia, const char* retrato, const std::vector<std::string>& linhas) {
+  guia.fotografar(retrato);
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, concluida);
+  guia.linhas("lstLista", linhas);
+}
+
+void fechar(Guia& guia) {
+  guia.tecla(Qt::Key_Escape);
+  guia.tela("frmMDIPrincipal");
+}
+
+/// Space on a lookup box, the name, and two clicks on the row found.
+void buscar(Guia& guia, const char* caixa, const char* busca, const char* campo, const char* texto, const char* volta) {
+  guia.ir(caixa);
+  guia.tecla(Qt::Key_Space);
+  guia.tela(busca);
+  guia.preencher({{campo, texto}});
+  guia.tecla(Qt::Key_F6);
+  guia.teclarLinha("lstLista", 0, 2);
+  guia.tela(volta);
+}
+
+void abrirEmpresa(Guia& guia, const Contexto& programa) {
+  guia.tela("frmMDIPrincipal");
+  guia.menu("mnuEmpresaAbrir");
+  guia.tela("frmEmpresaAbrir");
+  guia.teclarLinha("lstLista", 0);
+  guia.conteudo("txtCampo", programa.sGetCaminhoAplicacao() + "/Empresas/Loja.MDB");
+  guia.fotografar("abrir-empresa");
+  guia.tecla(Qt::Key_F3);
+}
+
+// Run 1: an empty folder.
+void primeiraExecucao(Guia& guia, Contexto&, const std::string&) {
+  guia.caixaFinal(informacao, atualizado, exitRestart);
+}
+
+// Run 2: the first user, the firm, the first company.
+void primeiroUso(Guia& guia, Contexto& programa, const std::string&) {
+  guia.caixa(critica,
+             "Não há usuários cadastrados no sistema.\r\nVocê deve cadastrar um usuário que terá acesso a todas\r\n"
+             "as funcionalidades do programa (ADMINISTRADOR).\r\nPara garantir a estabilidade do sistema,\r\n"
+             "este usuário não poderá ser excluído mais tarde.");
+  guia.tela("frmCadastroUsuarios");
+  guia.legenda("Cadastrando o usuário ADMINISTRADOR");
+  guia.conteudo("txtNome", "ADMINISTRADOR");
+  guia.preencher({{"txtSenha", senha}, {"txtConfirma", senha}});
+  guia.fotografar("primeiro-usuario");
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, "Usuário ADMINISTRADOR foi cadastrado corretamente.");
+  entrar(guia);
+
+  guia.caixa(aviso, "Os dados do sistema ainda não foram cadastrados.\r\nPor favor informe esses dados.");
+  guia.tela("frmSistema");
+  guia.preencher({{"txtNome", "Escritório Norvane"},
+                  {"txtEndereco", "Rua Marechal Deodoro, 415"},
+                  {"txtBairro", "Centro"},
+                  {"txtCidade", "Campinas"},
+                  {"txtUF", "SP"},
+                  {"txtCEP", "13010300"},
+                  {"txtCNPJ", "11444777000161"},
+                  {"txtTelefone", "1934551020"},
+                  {"txtEMail", "contato@norvane.example"},
+                  {"txtPercentualJurosDia", "0,10"},
+                  {"txtPercentualJurosMes", "2,00"}});
+  guia.escolher("cmbOpcaoReparcelamento", "R");
+  guia.fotografar("dados-da-firma");
+  guia.marcar("chkExibirLoginUsuario");
+  guia.escolher("cmbImpressoras", "Arquivo PDF");
+  guia.preencher({{"txtTamanhoPagina", "100"},
+                  {"txtSMTP", "smtp.norvane.example"},
+                  {"txtEmailRemetente", "contato@norvane.example"}});
+  guia.fotografar("configuracoes");
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, concluida);
+
+  guia.tela("frmMDIPrincipal");
+  guia.fotografar("janela-principal");
+  guia.menu("mnuCadClientes");
+  guia.caixa(aviso, "Selecione uma empresa.");
+  guia.menu("mnuEmpresaNova");
+  guia.tela("frmEmpresaNova");
+  const std::string pasta = programa.sGetCaminhoAplicacao() + "/Empresas";
+  guia.preencher({{"txtNomeArquivo", "Loja"}, {"txtCaminho", pasta.c_str()}});
+  guia.fotografar("nova-empresa");
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, "Empresa criada com sucesso.");
+  guia.linhas("lstLista", {"00001 | Loja.MDB | " + pasta + "/"});
+  fechar(guia);
+  guia.espereFim(exitRestart);
+  abrirEmpresa(guia, programa);
+  guia.caixa(informacao, atualizado);
+}
+
+void cadastrarCondicao(Guia& guia) {
+  guia.menu("mnuCadCondicoesPagamento");
+  guia.tela("frmCadastroCondicoesPagamento");
+  guia.preencher({{"txtNumeroParcelas", "4"}, {"txtIntervalo", "30"}});
+  guia.marcar("chkEntrada");
+  salvar(guia, "condicao-de-pagamento", {"1 | 4 | 30 | Sim"});
+  fechar(guia);
+}
+
+void cadastrarNome(Guia& guia, const char* entrada, const char* tela, const char* campo, const char* nome) {
+  guia.menu(entrada);
+  guia.tela(tela);
+  guia.preencher({{campo, nome}});
+  salvar(guia, "cadastro", {std::string("1 | ") + nome});
+  fechar(guia);
+}
+
+void cadastrarCliente(Guia& guia) {
+  constexpr const char* tela = "frmCadastroClientes";
+  guia.menu("mnuCadClientes");
+  guia.tela(tela);
+  guia.preencher({{"txtNome", "Açougue São João Ltda."}, {"txtLimiteCredito", "5000,00"}});
+  buscar(guia, "txtCategoria", "frmLocalizarCategoriasRapido", "txtNome", "Var", tela);
+  guia.preencher({{"txtEndereco", "Rua Barão de Jaguara, 100"}, {"txtBairro", "Centro"}});
+  guia.ir("txtCidade");
+  guia.tecla(Qt::Key_Space);
+  guia.tela("frmLocalizarCidades");
+  guia.preencher({{"txtNome", "Santa Bárbara d'"}});
+  guia.tecla(Qt::Key_F6);
+  guia.fotografar("localizar-cidade");
+  guia.teclarLinha("lstLista", 0);
+  guia.tela(tela);
+  guia.conteudo("txtCidade", "Santa Bárbara d'Oeste");
+  guia.preencher({{"txtCEP", "13450000"}, {"txtTelefone", "1934551020"}, {"txtContato", "João Batista"}});
+  buscar(guia, "txtVendedor", "frmLocalizarVendedoresRapido", "txtNome", "Mar", tela);
+  guia.preencher({{"txtCNPJ", "11444777000161"}, {"txtEMail", "contato@acougue.example"}});
+  guia.fotografar("cliente");
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, concluida);
+  fechar(guia);
+}
+
+void cadastrarFatura(Guia& guia) {
+  constexpr const char* tela = "frmCadastroFaturasCliente";
+  guia.menu("mnuCadFaturasClientes");
+  guia.tela(tela);
+  guia.conteudo("txtNumeroFatura", "1");
+  guia.preencher({{"txtTotal", "1000,00"}, {"txtEntrada", "100,00"}});
+  buscar(guia, "txtCliente", "frmLocalizarClientesRapido", "txtNome", "Aç", tela);
+  buscar(guia, "txtCondPagCodigoInf", "frmLocalizarCondicoesPagamentoRapido", "txtCodigoInf", "1", tela);
+  buscar(guia, "txtPortador", "frmLocalizarPortadoresRapido", "txtNome", "Car", tela);
+  buscar(guia, "txtVendedor", "frmLocalizarVendedoresRapido", "txtNome", "Mar", tela);
+  guia.fotografar("fatura");
+  guia.tecla(Qt::Key_F3);
+  guia.pergunta("Deseja visualizar os títulos relacionados à essa fatura?", true);
+  guia.tela("frmCadastroTitulosReceber");
+  guia.fotografar("titulos-da-fatura");
+  guia.tecla(Qt::Key_Escape);
+  guia.caixa(informacao, concluida);
+  guia.tela(tela);
+  guia.fotografar("fatura-salva");
+  fechar(guia);
+}
+
+// Run 3: the company's own data, what an invoice needs, and the invoice.
+void primeiraFatura(Guia& guia, Contexto& programa, const std::string&) {
+  entrar(guia);
+  abrirEmpresa(guia, programa);
+  guia.caixa(
+      informacao,
+      "A relação de Cidades será povoada. Esta operação poderá demorar alguns instantes.\r\nPor favor, aguarde...");
+  guia.caixa(informacao, "Empresa selecionada com sucesso.");
+  guia.caixa(aviso, "Informe os dados da empresa.");
+  guia.tela("frmEmpresa");
+  guia.preencher({{"txtNome", "Loja da Praça Ltda."},
+                  {"txtEndereco", "Praça Carlos Gomes, 10"},
+                  {"txtCidade", "Campinas"},
+                  {"txtUF", "SP"},
+                  {"txtCEP", "13010040"},
+                  {"txtTelefone", "1932311000"},
+                  {"txtCNPJ", "12ABC34501DE35"}});
+  guia.fotografar("dados-da-empresa");
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, concluida);
+  guia.tela("frmMDIPrincipal");
+  guia.legenda(legendaDaEmpresa(programa));
+  cadastrarNome(guia, "mnuCadCategorias", "frmCadastroCategorias", "txtNome", "Varejo");
+  cadastrarCondicao(guia);
+  cadastrarNome(guia, "mnuCadVendedores", "frmCadastroVendedores", "txtNome", "Maria Aparecida");
+  cadastrarNome(guia, "mnuCadastroPortadores", "frmCadastroPortadores", "txtNome", "Carteira");
+  cadastrarCliente(guia);
+  cadastrarFatura(guia);
+  sair(guia);
+}
+
+void abrirTitulos(Guia& guia) {
+  guia.menu("mnuCadTitulosReceber");
+  guia.tela("frmCadastroTitulosReceber");
+}
+
+/// Loads the open title in that row of the list.
+void abrirTitulo(Guia& guia, int linha, const char* codigo) {
+  guia.clicarLinha("lstLista", linha);
+  guia.conteudo("txtCodigoInf", codigo);
+}
+
+const char* const titulosNoFim[] = {
+    "000001/001\t01/03/2026\t100,00\t100,00\t0,00", "000001/002\t31/03/2026\t300,00\t312,12\t12,12",
+    "000001/003\t30/04/2026\t300,00\t100,00\t0,00", "000001/004\t30/05/2026\t300,00\t350,00\t0,00",
+    "000001/R01\t30/04/2026\t337,88\t337,88\t0,00",
+};
+
+void conferirTitulos(Guia& guia, Contexto& programa) {
+  std::vector<std::string> linhas;
+  guia.la([&] {
+    Recordset rs(
+        "SELECT sCodigoInf, FORMAT(dtVencimento, 'dd/mm/yyyy') AS Vencimento, FORMAT(fValor, '#,##0.00') AS Valor, "
+        "FORMAT(fValorPago, '#,##0.00') AS Pago, FORMAT(fJuros, '#,##0.00') AS Juros FROM TitulosReceber ORDER BY "
+        "sCodigoInf",
+        programa.dbEmpresa().Dados(), CursorType::dynamic, LockType::readOnly);
+    for (; !rs.eof(); rs.moveNext())
+      linhas.push_back(rs["sCodigoInf"].toText() + "\t" + rs["Vencimento"].toText() + "\t" + rs["Valor"].toText() +
+                       "\t" + rs["Pago"].toText() + "\t" + rs["Juros"].toText());
+  });
+  for (const std::string& linha : linhas) std::printf("%s\n", linha.c_str());
+  std::fflush(stdout);
+  if (linhas != std::vector<std::string>(std::begin(titulosNoFim), std::end(titulosNoFim)))
+    guia.falhar("os títulos da empresa não são os esperados (estão na saída)");
+}
+
+// Run 4, weeks later: the settlement.
+void baixa(Guia& guia, Contexto& programa, const std::string&) {
+  entrar(guia);
+  guia.tela("frmMDIPrincipal");
+  guia.legenda(legendaDaEmpresa(programa));
+  guia.fotografar("de-volta");
+
+  // Twenty days late: 20 days of 0,1 % make 6,00; one month of 2 % on 306,00 makes 6,12.
+  abrirTitulos(guia);
+  abrirTitulo(guia, 0, "000001/002");
+  guia.ir("cmdCalcularJuros");
+  guia.tecla(Qt::Key_Space);
+  guia.conteudo("txtJuros", "12,12");
+  guia.conteudo("txtValorPago", "312,12");
+  guia.fotografar("juros");
+  guia.tecla(Qt::Key_F3);
+  guia.caixa(informacao, concluida);
+
+  abrirTitulo(guia, 0, "000001/003");
+  guia.preencher({{"txtValorPago", "100,00"}});
+  guia.fotografar("pagamento-parcial");
+  guia.tecla(Qt::Key_F3);
+  guia.pergunta(
+      "O valor pago informado (R$ 100,00) é menor que o valor do título (R$ 300,00).\r\n"
+      "Esta operação criará um título complementar de reajuste no valor de R$ 200,00 .\r\n\r\nConfirma está operação?",
+      true);
+  guia.caixa(informacao, concluida);
+
+  abrirTitulo(guia, 0, "000001/004");
+  guia.preencher({{"txtValorPago", "350,00"}});
+  guia.fotografar("pagamento-maior");
+  guia.tecla(Qt::Key_F3);
+  guia.pergunta(
+      "O valor pago informado (R$ 350,00) é superior ao valor do título.\r\n"
+      "Assim, R$ 50,00 podem ser abatidos nos demais títulos não pagos desta fatura.\r\n\r\n"
+      "Deseja continuar a operação, pagando este título e efetuando o desconto nos demais títulos não pagos desta "
+      "fatura?",
+      true);
+  guia.caixa(informacao, concluida);
+
+  abrirTitulo(guia, 0, "000001/R01");
+  guia.conteudo("txtValor", "337,88");
+  guia.preencher({{"txtValorPago", "337,88"}});
+  guia.tecla(Qt::Key_F3);
+  guia.pergunta(
+      "O valor pago informado (R$ 337,88) é igual ao valor do título.\r\n"
+      "Esta operação determinará o pagamento do título.\r\n\r\nConfirma o pagamento do título?",
+      true);
+  guia.caixa(informacao, concluida);
+  guia.linhas("lstLista", {});
+  guia.fotografar("fatura-quitada");
+  fechar(guia);
+  conferirTitulos(guia, programa);
+  sair(guia);
+}
+
+// Run 5: leaving has kept the company; every screen has its picture taken.
+void retratos(Guia& guia, Contexto& programa, const std::string& pasta) {
+  retratarNosDoisTons(guia, programa, pasta, "frmLogin");
+  entrar(guia);
+  guia.tela("frmMDIPrincipal");
+  guia.legenda(legendaDaEmpresa(programa));
+  retratarTelas(guia, programa, pasta);
+  sair(guia);
+}
+
+}  // namespace
+
+const std::vector<Corrida>& corridas() {
+  static const std::vector<Corrida> todas{
+      {"primeira execução", makeDate(2026, 3, 1), exitRestart, false, primeiraExecucao},
+      {"primeiro uso", makeDate(2026, 3, 1), exitRestart, false, primeiroUso},
+      {"primeira fatura", makeDate(2026, 3, 1), 0, false, primeiraFatura},
+      {"baixa", makeDate(2026, 4, 20), 0, false, baixa},
+      {"retratos", makeDate(2026, 4, 20), 0, false, retratos},
+      {"retratos a 200 %", makeDate(2026, 4, 20), 0, true, retratos},
+  };
+  return todas;
+}
+
+}  // namespace fenvale::passeio
