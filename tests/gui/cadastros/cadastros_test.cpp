@@ -60,6 +60,7 @@ class CadastrosEmJanelas : public testing::Test, protected AmbienteDeTeste {
     host.doEvents();
     return tela;
   }
+  void executar(const std::string& sSQL) { Recordset(sSQL, programa.dbEmpresa().Dados()); }
   void tecla(int iTecla) {
     press(host, iTecla);
     host.throwKept();
@@ -154,6 +155,36 @@ TEST_F(CadastrosEmJanelas, PagesAreTurnedByTheArrowsAndTheSelectorKeepsTheFocus)
   tecla(Qt::Key_Left);
   EXPECT_EQ(tela.lstLista.item(0)->text(), "11");
   EXPECT_TRUE(tela.scrPaginas.hasFocus());
+  tela.unload();
+}
+
+TEST_F(CadastrosEmJanelas, ARightClickLeadsToTheTitlesOfTheCustomer) {
+  executar(
+      "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
+      "lCidadeEntrega, lCidadeCobranca) VALUES (12, 'Bar do Élio', 0, #08/12/1975#, 1, 1, 1, 1, 1)");
+  auto& tela = dynamic_cast<frmCadastroClientes&>(abrir("frmCadastroClientes"));
+  const auto noMenu = [&](std::vector<int> teclas) {
+    QTimer aEspera;
+    QObject::connect(&aEspera, &QTimer::timeout, [&] {
+      if (QApplication::activePopupWidget() == nullptr) return;
+      aEspera.stop();
+      for (int iTecla : teclas) press(host, iTecla);
+    });
+    aEspera.start(1);
+    clickRow(tela.lstLista, 0, Qt::RightButton);
+    host.throwKept();
+  };
+  noMenu({Qt::Key_Escape});
+  EXPECT_EQ(tela.txtNome.text(), "Bar do Élio") << "loaded before the menu opens";
+
+  std::string sAberta;
+  whenOpened(host, [&] {
+    sAberta = host.activeScreen()->sGetName();
+    press(host, Qt::Key_Escape);
+  });
+  noMenu({Qt::Key_Down, Qt::Key_Return});
+  EXPECT_EQ(sAberta, "frmCadastroTitulosReceber");
+  EXPECT_EQ(tela.txtNome.text(), "") << "the form is cleared when the titles close";
   tela.unload();
 }
 
