@@ -101,13 +101,28 @@ class ButtonBinding final : public BindingOf<Button, CommandButton> {
   bool square_;
 };
 
+/// A caption in as many lines as it needs: one of these boxes does not break its text by itself.
+QString inLines(const QString& caption, const QFontMetrics& metrics) {
+  constexpr int widest = 15 * measures::unit;
+  QStringList lines(QString{});
+  for (const QString& word : caption.split(u' ')) {
+    const QString longer = lines.back().isEmpty() ? word : lines.back() + u' ' + word;
+    if (!lines.back().isEmpty() && metrics.horizontalAdvance(longer) > widest) {
+      lines.append(word);
+    } else {
+      lines.back() = longer;
+    }
+  }
+  return lines.join(u'\n');
+}
+
 /// A check box or an option button: only the mark differs.
 template <typename Kind, typename Widget>
 class MarkBinding final : public BindingOf<Kind, Widget> {
  public:
   MarkBinding(QtHost& host, Kind& control, Widget& button, bool (Kind::*state)() const)
       : BindingOf<Kind, Widget>(host, control, button), state_(state) {
-    button.setText(toQt(control.caption()));
+    button.setText(inLines(toQt(control.caption()), button.fontMetrics()));
     if (control.label().empty()) button.setAccessibleName(spokenName(control.caption()));
     QObject::connect(&button, &QAbstractButton::clicked, this, [this] {
       this->enter([this] { this->control().userClick(); });
@@ -127,13 +142,19 @@ class MarkBinding final : public BindingOf<Kind, Widget> {
   bool (Kind::*state_)() const;
 };
 
-/// Lines that break where their place ends. Its height follows its width by itself, so that no layout around it has to
-/// weigh heights against widths.
-class HelpLabel final : public QLabel {
+/// A text that breaks into lines where its place ends; one that is shorter than `widest` never does. Its height follows
+/// its width by itself, so that no layout around it has to weigh heights against widths.
+class LinesLabel final : public QLabel {
  public:
+  explicit LinesLabel(int widest) : widest_(widest) { setWordWrap(true); }
+  void showText(const QString& text) {
+    setText(text);
+    fit();
+    updateGeometry();
+  }
   bool hasHeightForWidth() const override { return false; }
-  QSize sizeHint() const override { return {measures::unit * 4, minimumHeight()}; }
-  QSize minimumSizeHint() const override { return {measures::unit * 3, minimumHeight()}; }
+  QSize sizeHint() const override { return {std::min(naturalWidth(), widest_), minimumHeight()}; }
+  QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
   void resizeEvent(QResizeEvent* event) override {
@@ -142,20 +163,27 @@ class HelpLabel final : public QLabel {
   }
 
  private:
+  int naturalWidth() const {
+    const int text = fontMetrics().boundingRect(QRect(0, 0, INT_MAX / 2, INT_MAX / 2), 0, this->text()).width();
+    const QMargins around = contentsMargins();
+    return text + around.left() + around.right() + 2 + (property("role") == "hint" ? hintPadding : 0);
+  }
   void fit() { setMinimumHeight(std::max(QLabel::heightForWidth(width()), measures::textLine)); }
+
+  static constexpr int hintPadding = 30;
+  int widest_;
 };
 
-class LabelBinding final : public BindingOf<Label, QLabel> {
+class LabelBinding final : public BindingOf<Label, LinesLabel> {
  public:
-  LabelBinding(QtHost& host, Label& control, QLabel& label) : BindingOf(host, control, label) { refreshAll(); }
+  LabelBinding(QtHost& host, Label& control, LinesLabel& label) : BindingOf(host, control, label) { refreshAll(); }
 
  protected:
   void refresh(Aspect aspect) override {
     if (aspect != Aspect::caption) return;
     QString text = withoutAccessKey(control().caption());
     text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
-    view().setText(text);
-    if (view().wordWrap()) view().setMinimumHeight(std::max(view().heightForWidth(view().width()), measures::textLine));
+    view().showText(text);
     if (view().property("role") == "hint") view().setVisible(control().visible() && !text.isEmpty());
   }
 };
@@ -164,6 +192,7 @@ class LabelBinding final : public BindingOf<Label, QLabel> {
 class PictureLabel final : public QLabel {
  public:
   std::function<void()> clicked;
+  QSize sizeHint() const override { return {12 * measures::unit, 8 * measures::unit}; }
   void showFile(const QString& path) {
     picture_ = path.isEmpty() ? QPixmap() : QPixmap(path);
     update();
@@ -222,13 +251,11 @@ Binding& render(OptionButton& control, QtHost& host) {
 }
 
 Binding& render(Label& control, QtHost& host) {
-  const bool wraps = control.style() == Label::Style::help;
-  auto* const label = wraps ? new HelpLabel : new QLabel;
+  constexpr int narrowest = 3 * measures::unit, widest = 14 * measures::unit;
+  auto* const label = new LinesLabel(control.style() == Label::Style::help ? narrowest : widest);
   label->setTextFormat(Qt::PlainText);
   label->setTextInteractionFlags(Qt::TextSelectableByMouse);
   label->setFocusPolicy(Qt::NoFocus);
-  label->setMinimumHeight(measures::textLine);
-  label->setWordWrap(wraps);
   const bool splash = control.screen().style() == ScreenStyle::splash;
   const bool overPicture = control.screen().style() == ScreenStyle::mainWindow;
   switch (control.style()) {

@@ -91,10 +91,12 @@ QComboBox QAbstractItemView, QCompleter QAbstractItemView {
 QComboBox QAbstractItemView::item { min-height: 24px; padding: 0 4px; }
 
 QPushButton {
-  background: @base; color: @text; border: 1px solid @line; border-radius: 5px; padding: 0 12px; min-height: 28px; }
+  background: @base; color: @text; border: 1px solid @line; border-radius: 5px; padding: 0 12px; min-height: 26px; }
 QPushButton:hover { background: @hover; }
 QPushButton:pressed { background: @pressed; }
-QPushButton:focus { border: 2px solid @accent; padding: 0 11px; min-height: 26px; }
+QPushButton:focus { border: 2px solid @accent; padding: 0 11px; min-height: 24px; }
+QWidget#foot QPushButton { min-height: 28px; }
+QWidget#foot QPushButton:focus { min-height: 26px; }
 QPushButton:disabled { background: @window; color: @disabledText; }
 QPushButton[primary="true"] { background: @accent; color: @onAccent; border-color: @accent; }
 QPushButton[primary="true"]:hover, QPushButton[primary="true"]:pressed { background: @accentHover; }

@@ -1,0 +1,91 @@
+// Every screen of the program, over a company with a little in it, in a real window: nothing is cut, nothing lies over
+// anything else, everything is reached by Tab and has a name. With FENVALE_FIGURAS set to a folder a picture of each
+// screen is left there.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include <QCoreApplication>
+#include <QTimer>
+#include <QWidget>
+#include <cstdlib>
+
+#include "access/services/Permissoes.h"
+#include "app/Registro.h"
+#include "gui/support/LookChecks.h"
+#include "platform/base/Error.h"
+#include "platform/sql/Store.h"
+#include "platform/ui/qt/Probe.h"
+#include "platform/ui/qt/QtHost.h"
+#include "shell/services/Telas.h"
+#include "store/services/DBConectar.h"
+#include "store/services/Empresas.h"
+#include "support/ProgramaDeTeste.h"
+
+namespace fenvale::qt {
+namespace {
+
+using testing::IsEmpty;
+
+std::vector<std::string> nomesDasTelas() {
+  const ProgramaDeTeste programa(vRegistrarTelas);
+  return const_cast<ProgramaDeTeste&>(programa).telas().nomes();
+}
+
+class TodasAsTelas : public testing::TestWithParam<std::string> {
+ protected:
+  static HostOptions opcoes() {
+    HostOptions options;
+    options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
+    options.scheme = qEnvironmentVariableIsSet("FENVALE_ESCURO") ? Scheme::dark : Scheme::light;
+    options.immediate = true;
+    return options;
+  }
+
+  TodasAsTelas() {
+    modelo.abrirEmpresa();
+    modelo.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (1, 'Atacado')");
+    modelo.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (2, 'Varejo')");
+    modelo.executarPrograma("INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha) VALUES ('Maria', 'MARIA', '123')");
+    const auto chave = modelo.linhasPrograma("SELECT MAX(lCodigo) AS Valor FROM Empresas").at(0).at(0);
+    programa.dbConectar().Dados().open();
+    programa.empresas().bSetEmpresa(std::stoi(chave), "loja.MDB", modelo.pasta().caminho() + "/", false);
+    programa.permissoes().vSetPermissoes(0);
+  }
+
+  ProgramaDeTeste modelo;
+  AmbienteDeTeste ambiente;
+  QtHost host{opcoes()};
+  Programa programa{{modelo.pasta().caminho(), host, ambiente.relogioDoTeste, ambiente.processoDoTeste,
+                     ambiente.correioDoTeste, ambiente.redeDoTeste, ambiente.impressorasDoTeste},
+                    vRegistrarTelas};
+};
+
+TEST_P(TodasAsTelas, LooksWhole) {
+  Screen& tela = programa.telas().obter(GetParam());
+  QTimer dismissal;
+  QObject::connect(&dismissal, &QTimer::timeout, [this] {
+    if (host.openBox() == nullptr) return;
+    ADD_FAILURE() << "a box: " << host.openBox()->text;
+    press(host, Qt::Key_Escape);
+  });
+  dismissal.start(0);
+  try {
+    host.show(tela);
+    host.doEvents();
+    EXPECT_THAT(faultsOf(host, tela), IsEmpty());
+    if (const char* folder = std::getenv("FENVALE_FIGURAS")) {
+      tela.focusNext();
+      EXPECT_TRUE(grab(tela, std::string(folder) + "/" + GetParam() + ".png"));
+    }
+    tela.unload();
+    host.throwKept();
+  } catch (const ProgramEnded&) {  // the main window's way to close
+  }
+}
+
+INSTANTIATE_TEST_SUITE_P(Programa, TodasAsTelas, testing::ValuesIn(nomesDasTelas()),
+                         [](const auto& tela) { return tela.param; });
+
+}  // namespace
+}  // namespace fenvale::qt
