@@ -168,7 +168,11 @@ class LinesLabel final : public QLabel {
     const QMargins around = contentsMargins();
     return text + around.left() + around.right() + 2 + (property("role") == "hint" ? hintPadding : 0);
   }
-  void fit() { setMinimumHeight(std::max(QLabel::heightForWidth(width()), measures::textLine)); }
+  /// Before the first layout a widget has a width that means nothing: a help text then counts as one of ordinary width.
+  void fit() {
+    const int width = testAttribute(Qt::WA_Resized) ? this->width() : 18 * measures::unit;
+    setMinimumHeight(std::max(QLabel::heightForWidth(width), measures::textLine));
+  }
 
   static constexpr int hintPadding = 30;
   int widest_;

@@ -39,14 +39,18 @@ class EditBinding final : public BindingOf<TextControl, QLineEdit> {
     if (aspect != Aspect::content || view().text() == text) return;
     const int caret = caretIn(text, view().text(), view().cursorPosition());
     view().setText(text);
-    // What the rules put there reads from its beginning.
-    view().setCursorPosition(view().hasFocus() ? caret : 0);
+    // What the rules put there reads from its beginning. Whether the window is the active one says nothing here: a window
+    // manager may lag behind the keys.
+    view().setCursorPosition(typing_ ? caret : 0);
   }
 
  private:
   void take(const QString& typed) {
+    typing_ = true;
     enter([&] { control().userType(fromQt(typed)); });
+    typing_ = false;
   }
+  bool typing_ = false;
 };
 
 class ManyLinesBinding final : public BindingOf<TextBox, QPlainTextEdit> {
