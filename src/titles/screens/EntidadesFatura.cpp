@@ -121,6 +121,10 @@ std::vector<ColunaLista> EntidadesFatura::colunasCentroCusto() {
   return colunas(centroCusto, "centro de custo", "CentroCusto", 2200);
 }
 
+void vAcrescentar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras) {
+  for (ColunaLista& coluna : outras) colunas.push_back(std::move(coluna));
+}
+
 std::vector<std::int32_t> EntidadesFatura::chaves() const {
   std::vector<std::int32_t> todas{pessoa.busca.lCodigo, portador.busca.lCodigo};
   if (vendedor) todas.push_back(vendedor->busca.lCodigo);

@@ -63,9 +63,7 @@ class EntidadesFatura {
 
   /// The columns of an invoice that name them; with a condition's key behind the person's, where one is written.
   ValoresSQL valores(std::optional<std::int32_t> lCondicoesPagamento = std::nullopt) const;
-  /// A hidden column with the key and a column with the name.
-  static std::vector<ColunaLista> colunas(CampoEntidade& entidade, const std::string& sNomeNaFrase,
-                                          const std::string& sCampoNome, float fLargura);
+  // Of each a hidden column with the key and a column with the name.
   std::vector<ColunaLista> colunasPessoa(const Lado& lado);
   std::vector<ColunaLista> colunasPortador();
   std::vector<ColunaLista> colunasVendedor();
@@ -76,7 +74,13 @@ class EntidadesFatura {
   void vRestaurarChaves(const std::vector<std::int32_t>& chaves);
 
  private:
+  static std::vector<ColunaLista> colunas(CampoEntidade& entidade, const std::string& sNomeNaFrase,
+                                          const std::string& sCampoNome, float fLargura);
+
   Contexto& contexto_;
 };
+
+/// Columns are listed in the order in which they stand, group after group.
+void vAcrescentar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras);
 
 }  // namespace fenvale

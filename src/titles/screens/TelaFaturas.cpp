@@ -13,11 +13,6 @@ namespace {
 
 std::string sReais(Currency fValor) { return "R$ " + formatNumber(fValor); }
 
-/// In the order in which the rules name them, one list after the other.
-void vJuntar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras) {
-  for (ColunaLista& coluna : outras) colunas.push_back(std::move(coluna));
-}
-
 }  // namespace
 
 TelaFaturas::TelaFaturas(Contexto& contexto, const Lado& lado)
@@ -56,16 +51,16 @@ std::vector<ColunaLista> TelaFaturas::colunasDaLista() {
                                    {"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
                                    {"Total da fatura", 1600, Align::right, "TotalFatura", txtTotal},
                                    {"Entrada", 1400, Align::right, "TotalEntrada", txtEntrada}};
-  vJuntar(colunas, entidades.colunasPessoa(lado_));
-  vJuntar(colunas,
-          {{"Código interno da condição de pagamento", 0, Align::left, "lCondicoesPagamento", condicao.lCodigo},
-           {"Código Cond. Pag.", 1950, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
-           {"Nº de parcelas", 1650, Align::right, "iNumeroParcelas", txtNumeroParcelas},
-           {"Intervalo de venc.", 1950, Align::right, "iIntervalo", txtIntervalo},
-           {"Com entrada", 1560, Align::centre, "ComEntrada", chkEntrada}});
-  vJuntar(colunas, entidades.colunasPortador());
-  vJuntar(colunas, entidades.colunasVendedor());
-  vJuntar(colunas, entidades.colunasCentroCusto());
+  vAcrescentar(colunas, entidades.colunasPessoa(lado_));
+  vAcrescentar(colunas,
+               {{"Código interno da condição de pagamento", 0, Align::left, "lCondicoesPagamento", condicao.lCodigo},
+                {"Código Cond. Pag.", 1950, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
+                {"Nº de parcelas", 1650, Align::right, "iNumeroParcelas", txtNumeroParcelas},
+                {"Intervalo de venc.", 1950, Align::right, "iIntervalo", txtIntervalo},
+                {"Com entrada", 1560, Align::centre, "ComEntrada", chkEntrada}});
+  vAcrescentar(colunas, entidades.colunasPortador());
+  vAcrescentar(colunas, entidades.colunasVendedor());
+  vAcrescentar(colunas, entidades.colunasCentroCusto());
   return colunas;
 }
 

@@ -16,10 +16,6 @@ namespace {
 /// The screen stays after a failure, so the report lets the program go on.
 constexpr int iContinuar = 2;
 
-void vJuntar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras) {
-  for (ColunaLista& coluna : outras) colunas.push_back(std::move(coluna));
-}
-
 }  // namespace
 
 TelaTitulosCadastro::TelaTitulosCadastro(Contexto& contexto, const Lado& lado)
@@ -51,21 +47,21 @@ TelaTitulosCadastro::TelaTitulosCadastro(Contexto& contexto, const Lado& lado)
 std::vector<ColunaLista> TelaTitulosCadastro::colunasDaLista() {
   std::vector<ColunaLista> colunas{{"Código", 1700, Align::left, "sCodigoInf", txtCodigoInf}};
   if (txtFilial) colunas.push_back({"Filial", 800, Align::left, "sFilial", *txtFilial});
-  vJuntar(colunas, {{"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
-                    {"Vencimento", 1560, Align::centre, "Vencimento", dtVencimento},
-                    {"Pago", 800, Align::centre, "Pago"}});
-  vJuntar(colunas, entidades.colunasPessoa(lado_));
-  vJuntar(colunas, entidades.colunasPortador());
-  vJuntar(colunas, entidades.colunasVendedor());
-  vJuntar(colunas, {{"Valor da fatura", 1750, Align::right, "ValorFatura", txtTotal},
-                    {"Valor do título", 1750, Align::right, "ValorTitulo", txtValor}});
-  vJuntar(colunas, entidades.colunasCentroCusto());
-  vJuntar(colunas, {{"Pagamento", 1560, Align::centre, "Pagamento"},
-                    {"Valor pago", 1500, Align::right, "ValorPago", txtValorPago},
-                    {"Juros cobrado", 1650, Align::right, "Juros", txtJuros},
-                    {"Desconto", 1400, Align::right, "Desconto", txtDesconto},
-                    {"Nota fiscal", 1400, Align::right, "lNF", txtNF},
-                    {"Observação", 3600, Align::left, "sObs", txtObs}});
+  vAcrescentar(colunas, {{"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
+                         {"Vencimento", 1560, Align::centre, "Vencimento", dtVencimento},
+                         {"Pago", 800, Align::centre, "Pago"}});
+  vAcrescentar(colunas, entidades.colunasPessoa(lado_));
+  vAcrescentar(colunas, entidades.colunasPortador());
+  vAcrescentar(colunas, entidades.colunasVendedor());
+  vAcrescentar(colunas, {{"Valor da fatura", 1750, Align::right, "ValorFatura", txtTotal},
+                         {"Valor do título", 1750, Align::right, "ValorTitulo", txtValor}});
+  vAcrescentar(colunas, entidades.colunasCentroCusto());
+  vAcrescentar(colunas, {{"Pagamento", 1560, Align::centre, "Pagamento"},
+                         {"Valor pago", 1500, Align::right, "ValorPago", txtValorPago},
+                         {"Juros cobrado", 1650, Align::right, "Juros", txtJuros},
+                         {"Desconto", 1400, Align::right, "Desconto", txtDesconto},
+                         {"Nota fiscal", 1400, Align::right, "lNF", txtNF},
+                         {"Observação", 3600, Align::left, "sObs", txtObs}});
   return colunas;
 }
 

@@ -1,5 +1,7 @@
 // The title screen: how it opens, what a row brings into the form, keys, interest, and the invoice it keeps showing.
 
+#include "access/services/Permissoes.h"
+#include "shell/services/TelasDeApoio.h"
 #include "store/services/ConfiguracoesPrograma.h"
 #include "titles/screens/CenarioDeTelas.h"
 
@@ -7,6 +9,27 @@ namespace fenvale {
 namespace {
 
 class TitulosListaTest : public CenarioDeTelas {};
+
+/// A search that remembers who opened it.
+class BuscaDeTeste final : public Tela, public TelaBusca {
+ public:
+  explicit BuscaDeTeste(Contexto& contexto) : Tela(contexto, "frmBuscaDeTeste") {}
+  void vLocalizar(Screen& chamador) override {
+    sChamador = chamador.sGetName();
+    vMostrarFormModal(*this);
+  }
+  std::string sChamador;
+};
+
+/// The options of list printing, which remember what they were given.
+class OpcoesDeTeste final : public Tela, public OpcoesRelatorioLista {
+ public:
+  explicit OpcoesDeTeste(Contexto& contexto) : Tela(contexto, "frmOpcoesRelList") {}
+  void vCarregar(const std::string& sTitulo, std::int16_t iColunas, ListView& lst) override {
+    pedido = sTitulo + " | " + std::to_string(iColunas) + " | " + std::to_string(lst.items().size());
+  }
+  std::string pedido;
+};
 
 TEST_P(TitulosListaTest, OpensOnTheOpenTitlesByCode) {
   criarFatura("90,00", tresComEntrada, "30,00");
@@ -27,6 +50,49 @@ TEST_P(TitulosListaTest, SearchesAndPrintWaitForTheirScreens) {
   EXPECT_FALSE(tela.cmdLocalizarBaixa.enabled());
   EXPECT_FALSE(tela.cmdEmitir.enabled());
   for (const Key tecla : {Key::f5, Key::f6, Key::f7}) tela.userKey(tecla);
+}
+
+TEST_P(TitulosListaTest, SearchesAndPrintWorkOnceTheirScreensAreThere) {
+  Telas& telas = cenario.programa.telas();
+  for (const std::string& nome : {lado.titulos.sBusca, lado.titulos.sBuscaBaixa, lado.faturas.sBusca})
+    telas.registrar<BuscaDeTeste>(nome);
+  telas.registrar<OpcoesDeTeste>("frmOpcoesRelList");
+  criarFatura("90,00");
+
+  const auto abrir = [&](Screen& tela, Key tecla) {
+    host.expectScreen("frmBuscaDeTeste", [&](Screen& aberta) {
+      EXPECT_EQ(dynamic_cast<BuscaDeTeste&>(aberta).sChamador, tela.sGetName());
+      aberta.userClose();
+    });
+    tela.userKey(tecla);
+    host.verify();
+  };
+  abrir(titulos(), Key::f6);
+  abrir(titulos(), Key::f7);
+  abrir(faturas(), Key::f6);
+
+  titulos().userKey(Key::f5);
+  EXPECT_EQ(telas.obter<OpcoesDeTeste>("frmOpcoesRelList").pedido, lado.titulos.sTitulo + " | 130 | 3");
+  faturas().userKey(Key::f5);
+  EXPECT_EQ(telas.obter<OpcoesDeTeste>("frmOpcoesRelList").pedido, lado.faturas.sTitulo + " | 130 | 1");
+}
+
+TEST_P(TitulosListaTest, WithoutTheRightToSearchEachWayAsksOnceAndDoesNothing) {
+  cenario.programa.executarPrograma(
+      "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
+      "bPoderImprimir, bPoderAtualizar) VALUES ('Ana', 'ana', 'x', -1, -1, 0, 0, -1)");
+  Telas& telas = cenario.programa.telas();
+  for (const std::string& nome : {lado.titulos.sBusca, lado.titulos.sBuscaBaixa}) telas.registrar<BuscaDeTeste>(nome);
+  telas.registrar<OpcoesDeTeste>("frmOpcoesRelList");
+  criarFatura("90,00");
+  TelaTitulosCadastro& tela = titulos();
+  cenario.programa.permissoes().vSetPermissoes(1);
+  for (const Key tecla : {Key::f2, Key::f5, Key::f6, Key::f7}) {
+    host.expectBox(semPermissao());
+    tela.userKey(tecla);
+    host.verify();
+  }
+  EXPECT_THAT(tela.lstLista.items(), IsEmpty()) << "a new form clears the list, and it is not filled again";
 }
 
 TEST_P(TitulosListaTest, ARowBringsTheTitleIntoTheForm) {
