@@ -33,6 +33,8 @@ std::string textoConexao(const std::string& caminho) {
   return "Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=" + caminho;
 }
 
+void executarEm(Connection& conexao, const std::string& sql) { const Recordset rs(sql, conexao); }
+
 /// Stores that are made once by the scripts and copied for every test.
 class Modelos {
  public:
@@ -59,12 +61,12 @@ class Modelos {
     if (!documento.sound()) throw std::runtime_error(roteiro + ": " + documento.parseError().reason);
     conexao.beginTrans();  // one write to the disk instead of one for each statement
     for (const XmlElement& elemento : documento.elements("SQL"))
-      if (elemento.children.size() == 1) Recordset(elemento.children.front(), conexao);
-    Recordset("INSERT INTO Cidades (sNome, sUF) VALUES ('Londrina', 'PR')", conexao);
-    Recordset("INSERT INTO Cidades (sNome, sUF) VALUES ('São Paulo', 'SP')", conexao);
+      if (elemento.children.size() == 1) executarEm(conexao, elemento.children.front());
+    executarEm(conexao, "INSERT INTO Cidades (sNome, sUF) VALUES ('Londrina', 'PR')");
+    executarEm(conexao, "INSERT INTO Cidades (sNome, sUF) VALUES ('São Paulo', 'SP')");
     if (comBancos) {
-      Recordset("INSERT INTO Bancos (sNome, iCodigoInf) VALUES ('Banco do Brasil S.A.', '001')", conexao);
-      Recordset("INSERT INTO Bancos (sNome, iCodigoInf) VALUES ('Caixa Econômica Federal', '104')", conexao);
+      executarEm(conexao, "INSERT INTO Bancos (sNome, iCodigoInf) VALUES ('Banco do Brasil S.A.', '001')");
+      executarEm(conexao, "INSERT INTO Bancos (sNome, iCodigoInf) VALUES ('Caixa Econômica Federal', '104')");
     }
     conexao.commitTrans();
     conexao.close();
@@ -156,8 +158,8 @@ void ProgramaDeTeste::abrirEmpresa(const std::string& nome) {
     throw std::runtime_error("the company " + nome + " was not opened");
 }
 
-void ProgramaDeTeste::executar(const std::string& sql) { Recordset(sql, dbEmpresa().Dados()); }
-void ProgramaDeTeste::executarPrograma(const std::string& sql) { Recordset(sql, dbConectar().Dados()); }
+void ProgramaDeTeste::executar(const std::string& sql) { executarEm(dbEmpresa().Dados(), sql); }
+void ProgramaDeTeste::executarPrograma(const std::string& sql) { executarEm(dbConectar().Dados(), sql); }
 
 std::vector<std::vector<std::string>> ProgramaDeTeste::linhas(const std::string& sql) {
   return todasAsLinhas(sql, dbEmpresa().Dados());

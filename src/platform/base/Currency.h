@@ -35,7 +35,7 @@ class Currency {
   Currency operator-() const;
   Currency& operator+=(Currency other) { return *this = *this + other; }
   Currency& operator-=(Currency other) { return *this = *this - other; }
-  constexpr auto operator<=>(const Currency&) const = default;
+  constexpr auto operator<=>(const Currency&) const = default;  // NOLINT(modernize-use-nullptr): a false alarm
 
  private:
   constexpr explicit Currency(std::int64_t units) : units_(units) {}

@@ -60,7 +60,7 @@ std::string base64(std::string_view bytes) {
 }
 
 std::string encodedHeader(std::string_view text) {
-  const std::string line = oneLine(text);
+  std::string line = oneLine(text);
   if (isPlain(line) && line.size() <= lineWidth - 10) return line;
   std::string result;
   std::string word;

@@ -50,9 +50,9 @@ std::int32_t lGetLinhaPadrao(Contexto& contexto, const LinhaPadrao& linha) try {
     if (!rs.eof()) return rs.field("lCodigo").toLong();
   }
   const std::string sCodigo = Sistema(contexto).sGetProximoCodigoNumerico(linha.sTabela, linha.sCampoCodigo, 0, true);
-  Recordset(std::string("INSERT INTO ") + linha.sTabela + " (" + linha.sCampoCodigo + ", " + linha.sCampos +
-                ") VALUES (" + sCodigo + ", " + linha.sValores + ") ",
-            dados, CursorType::dynamic, LockType::pessimistic);
+  const Recordset insercao(std::string("INSERT INTO ") + linha.sTabela + " (" + linha.sCampoCodigo + ", " +
+                               linha.sCampos + ") VALUES (" + sCodigo + ", " + linha.sValores + ") ",
+                           dados, CursorType::dynamic, LockType::pessimistic);
   const Recordset rs("SELECT MAX(lCodigo) AS Valor" + sOnde + " GROUP BY lCodigo ORDER BY lCodigo ", dados,
                      CursorType::dynamic, LockType::pessimistic);
   return rs.field("Valor").toLong();

@@ -14,7 +14,7 @@ namespace {
 constexpr const char* sArquivoIntermediario = "/BUFFER_XML_FILE_VALIDACION";
 constexpr const char* sFimArquivoInvalido = "_INVALID_XML";
 
-std::string linha(std::string sTexto) { return sTexto + std::string(lineBreak); }
+std::string linha(const std::string& sTexto) { return sTexto + std::string(lineBreak); }
 
 std::string sPerguntaRevisao(const std::string& sCaminho, const XmlParseError& erro) {
   return linha("O documento ") + linha(sCaminho) + linha("está mal formatado.") + linha("") +
