@@ -2,9 +2,11 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+#include <sys/resource.h>
 #include <sys/stat.h>
 #include <unistd.h>
 
+#include <csignal>
 #include <filesystem>
 
 #include "platform/base/Error.h"
@@ -106,18 +108,37 @@ TEST_F(Files, WhatCannotBeDoneIsToldInOneSentence) {
   EXPECT_EQ(isFolder.description, "Não foi possível ler o arquivo " + folder.caminho() + ": é uma pasta.");
 }
 
-TEST_F(Files, AFullDiskLeavesTheOldFileAlone) {
-  // The device that is always full stands in for a disk.
-  const Error full = failure([] { files::write("/dev/full/x", "x"); });
-  EXPECT_EQ(full.number, errors::fileNotFound);
-  folder.gravar("a.txt", "velho");
-  ::chmod(folder.caminho().c_str(), 0500);
-  if (::geteuid() != 0) {
-    const Error refused = failure([&] { files::write(folder.arquivo("a.txt"), "novo"); });
-    EXPECT_EQ(refused.number, errors::fileAccess);
+/// Files cannot grow beyond `bytes` as long as it lives: a write breaks off in the middle as on a full disk.
+class ShortDisk {
+ public:
+  explicit ShortDisk(rlim_t bytes) : before_(std::signal(SIGXFSZ, SIG_IGN)) {
+    ::getrlimit(RLIMIT_FSIZE, &old_);
+    const rlimit narrow{bytes, old_.rlim_max};
+    ::setrlimit(RLIMIT_FSIZE, &narrow);
   }
-  ::chmod(folder.caminho().c_str(), 0700);
-  EXPECT_FALSE(folder.ler("a.txt").empty());
+  ~ShortDisk() {
+    ::setrlimit(RLIMIT_FSIZE, &old_);
+    std::signal(SIGXFSZ, before_);
+  }
+  ShortDisk(const ShortDisk&) = delete;
+  ShortDisk& operator=(const ShortDisk&) = delete;
+
+ private:
+  void (*before_)(int);
+  rlimit old_{};
+};
+
+TEST_F(Files, AWriteThatBreaksOffLeavesTheOldFileAlone) {
+  folder.gravar("a.txt", "velho");
+  Error broken{0, ""};
+  {
+    const ShortDisk disk(4096);
+    broken = failure([&] { files::write(folder.arquivo("a.txt"), std::string(100000, 'x')); });
+  }
+  EXPECT_EQ(broken.number, errors::fileAccess);
+  EXPECT_THAT(broken.description, testing::StartsWith("Não foi possível gravar o arquivo " + folder.arquivo("a.txt")));
+  EXPECT_EQ(folder.ler("a.txt"), "velho");
+  EXPECT_THAT(folder.nomes(), ElementsAre("a.txt"));
 }
 
 TEST_F(Files, FoldersAreMadeWithThoseAboveThem) {

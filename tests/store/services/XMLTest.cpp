@@ -151,6 +151,17 @@ TEST_F(Revisao, AnOlderUnrepairedFileIsReplaced) {
   EXPECT_EQ(ler(), "<a>&#231;</a>\r\n");
 }
 
+TEST_F(Revisao, ARepairThatFailsIsToldAndReportedAndTheFileStays) {
+  gravar("<a>\xE7</a>");
+  programa.pasta().gravar("Cidades.XML_INVALID_XML/ocupada", "x");
+  host.expectBox(critica("Não foi possível apagar o arquivo " + caminho("Cidades.XML_INVALID_XML") + ": é uma pasta."));
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  EXPECT_EQ(ProgramaDeTeste::codigoDeSaida([&] { xml.vValidarCaracteresXML(caminho()); }), exitFailure);
+  EXPECT_EQ(ler(), "<a>\xE7</a>");
+  EXPECT_THAT(programa.pasta().ler("Erros/260315143207.err"),
+              testing::HasSubstr("Formul\xE1rio: XML\r\nFun\xE7\xE3o: vValidarCaracteresXML\r\n"));
+}
+
 TEST_F(Revisao, OfAFileThatIsNotThereNothingIsRepaired) {
   xml.vValidarCaracteresXML(caminho("nada.XML"));
   EXPECT_FALSE(programa.pasta().existe("nada.XML"));
