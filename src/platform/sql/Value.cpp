@@ -1,5 +1,6 @@
 #include "platform/sql/Value.h"
 
+#include <utility>
 #include <array>
 #include <charconv>
 
@@ -104,7 +105,12 @@ bool Value::toBoolean() const {
   return toDouble() != 0;
 }
 
-std::string Value::toText() const {
+std::string Value::toText() && {
+  if (std::string* const text = std::get_if<std::string>(&content_)) return std::move(*text);
+  return std::as_const(*this).toText();
+}
+
+std::string Value::toText() const& {
   return std::visit(
       Overloaded{[](std::monostate) { return std::string(); }, [](std::int64_t number) { return std::to_string(number); },
                  [](Currency amount) { return amount.toDecimal(); }, [](double number) { return decimalText(number); },

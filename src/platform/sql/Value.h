@@ -38,7 +38,8 @@ class Value {
   bool toBoolean() const;           ///< any number but 0 is true
   /// NULL is an empty text. Integers in decimal, currency by Currency::toDecimal, a date as dd/mm/yyyy, yes/no as
   /// "-1" or "0".
-  std::string toText() const;
+  std::string toText() const&;
+  std::string toText() &&;  ///< takes the text along
 
   bool operator==(const Value&) const = default;
 

@@ -64,6 +64,12 @@ struct BoundSelect {
   };
   std::vector<Column> columns;
   std::vector<BoundSource> sources;
+  /// Sources that add at most one row to each, and NULLs where there is none.
+  struct Lookup {
+    BoundSource source;
+    BoundExpression condition;
+  };
+  std::vector<Lookup> lookups;
   std::vector<BoundExpression> conditions;  ///< of the joins and of WHERE; a row fulfils all
   std::vector<BoundExpression> groupBy;
   std::vector<BoundOrder> orderBy;

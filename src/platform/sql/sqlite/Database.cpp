@@ -112,7 +112,9 @@ Value Prepared::value(std::size_t column, ValueType type) const {
 
 Database::Database(const std::string& path, LockWait* lockWait) : lockWait_(lockWait) {
   if (!files::isFile(path)) throw Error(errors::storeNotFound, "O banco de dados " + path + " não foi localizado.");
-  const int code = sqlite3_open_v2(path.c_str(), &handle_, SQLITE_OPEN_READWRITE, nullptr);
+  // The program has one thread: no lock around every call.
+  constexpr int mode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+  const int code = sqlite3_open_v2(path.c_str(), &handle_, mode, nullptr);
   try {
     if (code != SQLITE_OK) fail(handle_, code);
     sqlite3_extended_result_codes(handle_, 1);
@@ -160,6 +162,23 @@ std::int64_t Database::schemaVersion() const {
   const std::int64_t number = version.step() ? version.integer(0) : 0;
   version.reset();
   return number;
+}
+
+Database::State Database::state() {
+  if (!dataVersion_) dataVersion_ = prepare("PRAGMA data_version");
+  const Running running(dataVersion_);
+  return {sqlite3_total_changes64(handle_), dataVersion_.step() ? dataVersion_.integer(0) : 0};
+}
+
+Database::Snapshot::Snapshot(Database& database, bool wanted) {
+  if (!wanted) return;
+  if (!database.anyRow_) database.anyRow_ = database.prepare(std::string("SELECT 1 FROM ") + catalogTable);
+  // A statement that stands on a row keeps the lock for all others of the connection.
+  if (database.anyRow_.step()) held_ = &database.anyRow_;
+}
+
+Database::Snapshot::~Snapshot() {
+  if (held_ != nullptr) held_->reset();
 }
 
 int Database::waitForLock(void* self, int attempt) {

@@ -65,11 +65,33 @@ class Database {
   /// Counts the definitions that the file has seen, by whomever.
   std::int64_t schemaVersion() const;
 
+  /// Differs from an earlier one when anybody has written rows in between. Says nothing inside a transaction.
+  struct State {
+    std::int64_t ownChanges = 0;
+    std::int64_t otherChanges = 0;
+    bool operator==(const State&) const = default;
+  };
+  State state();
+
+  /// While it lives, reads see one state of the file and ask for its lock once.
+  class Snapshot {
+   public:
+    /// Nothing is held unless `wanted`.
+    Snapshot(Database& database, bool wanted);
+    ~Snapshot();
+    Snapshot(const Snapshot&) = delete;
+    Snapshot& operator=(const Snapshot&) = delete;
+
+   private:
+    Prepared* held_ = nullptr;
+  };
+
  private:
   static int waitForLock(void* self, int attempt);
 
   sqlite3* handle_ = nullptr;
   LockWait* lockWait_;
+  Prepared dataVersion_, anyRow_;
   std::chrono::milliseconds waited_{0};
   std::chrono::milliseconds told_{0};
 };

@@ -96,6 +96,7 @@ const SqliteEmitter::KnownSource& SqliteEmitter::find(std::size_t number) const 
 
 void SqliteEmitter::select(const BoundSelect& statement, bool nested) {
   for (const BoundSource& source : statement.sources) know(source);
+  for (const BoundSelect::Lookup& lookup : statement.lookups) know(lookup.source);
   text_ += "SELECT ";
   for (std::size_t index = 0; index < statement.columns.size(); ++index) {
     if (index > 0) text_ += ", ";
@@ -132,6 +133,11 @@ void SqliteEmitter::from(const BoundSelect& statement) {
       text_ += ")";
     }
     text_ += " AS t" + std::to_string(source.number);
+  }
+  for (const BoundSelect::Lookup& lookup : statement.lookups) {
+    text_ += " LEFT JOIN " + sqliteName(lookup.source.table->name) + " AS t" + std::to_string(lookup.source.number);
+    text_ += " ON ";
+    condition(lookup.condition);
   }
 }
 

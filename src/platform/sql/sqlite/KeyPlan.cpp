@@ -126,6 +126,55 @@ void prune(BoundSelect& select, std::vector<Link> chain, const SourceNumbers& or
   std::erase_if(select.sources, [&](const BoundSource& source) { return !left.contains(source.number); });
 }
 
+/// The lookup that answers a subselect for one value by the unique column of one table; nothing for any other.
+std::optional<BoundSelect::Lookup> lookupOf(const BoundExpression& value) {
+  if (value.operation != Operation::subselect) return std::nullopt;
+  const BoundSelect& select = *value.select;
+  if (select.sources.size() != 1 || !select.sources[0].table || select.conditions.size() != 1 || select.aggregated ||
+      select.columns[0].value.operation != Operation::column)
+    return std::nullopt;
+  const BoundSource& source = select.sources[0];
+  const BoundExpression& condition = select.conditions[0];
+  if (condition.operation != Operation::equal) return std::nullopt;
+  const auto isColumn = [](const BoundExpression& side) { return side.operation == Operation::column; };
+  const auto isOwn = [&](const BoundExpression& side) { return side.source == source.number; };
+  const BoundExpression& left = condition.operands[0];
+  const BoundExpression& right = condition.operands[1];
+  if (!isColumn(left) || !isColumn(right) || isOwn(left) == isOwn(right) || !isOwn(select.columns[0].value))
+    return std::nullopt;
+  if (!source.table->isUnique(source.table->columns[(isOwn(left) ? left : right).column].name)) return std::nullopt;
+  return BoundSelect::Lookup{source, condition};
+}
+
+bool sameColumn(const BoundExpression& first, const BoundExpression& second) {
+  return first.source == second.source && first.column == second.column;
+}
+
+/// Whether two lookups find the same row: the same columns on both sides, but for the number of their own source.
+bool sameRow(const BoundSelect::Lookup& first, BoundSelect::Lookup second) {
+  if (first.source.table != second.source.table) return false;
+  for (BoundExpression& side : second.condition.operands)
+    if (side.source == second.source.number) side.source = first.source.number;
+  const auto& mine = first.condition.operands;
+  const auto& theirs = second.condition.operands;
+  return (sameColumn(mine[0], theirs[0]) && sameColumn(mine[1], theirs[1])) ||
+         (sameColumn(mine[0], theirs[1]) && sameColumn(mine[1], theirs[0]));
+}
+
+/// Values that are looked up one by one, as a city's name and its state, become columns of one lookup.
+void gatherLookups(BoundSelect& row) {
+  for (BoundSelect::Column& column : row.columns) {
+    std::optional<BoundSelect::Lookup> lookup = lookupOf(column.value);
+    if (!lookup) continue;
+    const auto known = std::find_if(row.lookups.begin(), row.lookups.end(),
+                                    [&](const BoundSelect::Lookup& one) { return sameRow(one, *lookup); });
+    BoundExpression value = column.value.select->columns[0].value;
+    value.source = known == row.lookups.end() ? lookup->source.number : known->source.number;
+    if (known == row.lookups.end()) row.lookups.push_back(std::move(*lookup));
+    column.value = std::move(value);
+  }
+}
+
 }  // namespace
 
 std::optional<KeyPlan> planKeys(const BoundSelect& select, std::size_t parameters) {
@@ -177,6 +226,7 @@ std::optional<KeyPlan> planKeys(const BoundSelect& select, std::size_t parameter
   isKey.type = ValueType::boolean;
   isKey.operands = {key, parameter};
   plan.row.conditions.push_back(std::move(isKey));
+  gatherLookups(plan.row);
   plan.rowIsKey = std::all_of(select.columns.begin(), select.columns.end(), [&](const BoundSelect::Column& column) {
     return column.value.operation == Operation::column && column.value.source == key.source &&
            column.value.column == key.column;

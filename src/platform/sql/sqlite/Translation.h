@@ -36,6 +36,14 @@ struct Translation {
   bool rowIsKey = false;
   std::string keysText, countText, rowText;
   Prepared keys, count, row;
+
+  /// The count answered last, with the values and the state of the store that it holds for.
+  struct Counted {
+    std::int64_t rows = -1;
+    Database::State state;
+    std::vector<StoredValue> values;
+  };
+  Counted counted;
 };
 
 /// A translation together with the values of one statement.
