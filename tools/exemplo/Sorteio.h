@@ -5,6 +5,7 @@
 #include <cstddef>
 #include <cstdint>
 #include <string_view>
+#include <vector>
 
 namespace fenvale::exemplo {
 
@@ -31,6 +32,11 @@ class Sorteio {
   template <std::size_t N>
   constexpr std::string_view um(const std::array<std::string_view, N>& palavras) {
     return palavras[ate(static_cast<std::uint32_t>(N))];
+  }
+  /// One of a list that is not empty.
+  template <typename T>
+  const T& umDe(const std::vector<T>& lista) {
+    return lista[ate(static_cast<std::uint32_t>(lista.size()))];
   }
 
  private:

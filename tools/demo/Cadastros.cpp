@@ -1,0 +1,231 @@
+#include "demo/Cadastros.h"
+
+#include <algorithm>
+#include <array>
+#include <string_view>
+
+#include "access/services/Permissoes.h"
+#include "exemplo/Pessoas.h"
+#include "exemplo/Sorteio.h"
+#include "platform/base/Error.h"
+#include "platform/print/PrinterService.h"
+#include "platform/sql/Store.h"
+#include "shell/services/Contexto.h"
+#include "shell/services/Validacoes.h"
+#include "store/services/DBConectar.h"
+#include "store/services/Sistema.h"
+#include "titles/services/GeradorTitulos.h"
+
+namespace fenvale::demonstracao {
+namespace {
+
+using exemplo::Sorteio;
+
+constexpr std::uint64_t semente = 2026;
+constexpr std::uint32_t quantosClientes = 120;
+constexpr const char* sNomeFirma = "Comercial Fenvale Ltda";
+
+struct CidadeDaRegiao {
+  const char* sNome;
+  const char* sUF;
+};
+/// The firm is in the first one, and so are most of its customers.
+constexpr std::array<CidadeDaRegiao, 10> cidades{{{"Londrina", "PR"},
+                                                  {"Cambé", "PR"},
+                                                  {"Ibiporã", "PR"},
+                                                  {"Rolândia", "PR"},
+                                                  {"Arapongas", "PR"},
+                                                  {"Apucarana", "PR"},
+                                                  {"Maringá", "PR"},
+                                                  {"Curitiba", "PR"},
+                                                  {"São Paulo", "SP"},
+                                                  {"Presidente Prudente", "SP"}}};
+
+constexpr std::array<std::string_view, 6> categorias{"Consumidor final",      "Comércio varejista", "Indústria",
+                                                     "Prestador de serviços", "Construtora",        "Órgão público"};
+constexpr std::array<std::string_view, 4> centrosCusto{"Loja", "Vendas externas", "Oficina", "Assistência técnica"};
+constexpr std::array<std::string_view, 4> portadores{"Carteira", "Banco do Brasil", "Caixa Econômica Federal", "Itaú"};
+constexpr std::uint32_t quantosVendedores = 5;
+
+constexpr std::array<CondicaoPagamento, 9> condicoes{{{0, 1, 0, false},
+                                                      {0, 1, 30, false},
+                                                      {0, 2, 30, false},
+                                                      {0, 3, 30, false},
+                                                      {0, 4, 28, false},
+                                                      {0, 6, 30, false},
+                                                      {0, 2, 30, true},
+                                                      {0, 4, 30, true},
+                                                      {0, 10, 30, true}}};
+
+/// What the second user may not do: make and back up companies, change the settings of firm and company, make users,
+/// purge titles.
+constexpr std::array<std::string_view, 6> semDireito{"c1", "c3", "c15", "c16", "c17", "p2"};
+
+std::int32_t lCidade(Connection& conexao, const CidadeDaRegiao& cidade) {
+  const Recordset rs(
+      "SELECT lCodigo FROM Cidades WHERE sNome = " + sTexto(cidade.sNome) + " AND sUF = " + sTexto(cidade.sUF),
+      conexao);
+  if (rs.eof()) throw Error(errors::noCurrentRecord, std::string("A cidade ") + cidade.sNome + " não foi encontrada.");
+  return rs.field("lCodigo").toLong();
+}
+
+void vCadastrarUsuario(Connection& conexao, const std::string& sNome, const std::string& sSenha, bool bTudo) {
+  ValoresSQL valores{{"sNomeUsuario", sTexto(sNome)},
+                     {"sLogin", sTexto(sNome)},
+                     {"sSenha", sTexto(sSenha)},
+                     {"bPoderSalvar", "-1"},
+                     {"bPoderExcluir", bTudo ? "-1" : "0"},
+                     {"bPoderPesquisar", "-1"},
+                     {"bPoderImprimir", "-1"},
+                     {"bPoderAtualizar", "-1"}};
+  for (const ChaveMenu& chave : chavesMenu()) {
+    const bool bNegado = std::find(semDireito.begin(), semDireito.end(), chave.sChave) != semDireito.end();
+    valores.emplace_back(chave.sChave, bTudo || !bNegado ? "-1" : "0");
+  }
+  vExecutar(conexao, sComandoInclusao("Usuarios", valores));
+}
+
+/// Firm and company are the same house.
+ValoresSQL dadosDaFirma(Connection& conexao) {
+  return {{"sNome", sTexto(sNomeFirma)},
+          {"sEndereco", sTexto("Rua Sergipe, 1250")},
+          {"sBairro", sTexto("Centro")},
+          {"sCEP", sTexto("86010-370")},
+          {"lCidade", std::to_string(lCidade(conexao, cidades.front()))},
+          {"sCNPJ", sTexto(exemplo::sCNPJCom(11222333))},
+          {"sTelefone", sTexto("(43) 3321-4500")},
+          {"sFax", sTexto("(43) 3321-4501")},
+          {"sEMail", sTexto("contato@fenvale.example")}};
+}
+
+/// Stores a row with the next free code and answers its key.
+std::int32_t lIncluir(Contexto& contexto, const std::string& sTabela, const std::string& sCampoCodigo,
+                      ValoresSQL valores) {
+  Connection& dados = contexto.dbEmpresa().Dados();
+  valores.insert(valores.begin(),
+                 {sCampoCodigo, Sistema(contexto).sGetProximoCodigoNumerico(sTabela, sCampoCodigo, 0, true)});
+  vExecutar(dados, sComandoInclusao(sTabela, valores));
+  return Recordset("SELECT MAX(lCodigo) AS Valor FROM " + sTabela, dados).field("Valor").toLong();
+}
+
+template <std::size_t N>
+std::vector<std::int32_t> incluirNomes(Contexto& contexto, const char* sTabela, const char* sCampo,
+                                       const std::array<std::string_view, N>& nomes) {
+  std::vector<std::int32_t> chaves;
+  for (const std::string_view sNome : nomes)
+    chaves.push_back(lIncluir(contexto, sTabela, "btCodigoInf", {{sCampo, sTexto(std::string(sNome))}}));
+  return chaves;
+}
+
+ValoresSQL valoresCliente(const exemplo::Cliente& c) {
+  return {{"sNome", sTexto(c.sNome)},
+          {"fLimiteCredito", Validacoes::sGetFloatSQL(c.fLimiteCredito)},
+          {"sEndereco", sTexto(c.sEndereco)},
+          {"sBairro", sTexto(c.sBairro)},
+          {"sCEP", sTexto(c.sCEP)},
+          {"sTelefone", sTexto(c.sTelefone)},
+          {"sFax", sTexto(c.sFax)},
+          {"sContato", sTexto(c.sContato)},
+          {"sRG", sTexto(c.sRG)},
+          {"sCPF", sTexto(c.sCPF)},
+          {"sIE", sTexto(c.sIE)},
+          {"sCNPJ", sTexto(c.sCNPJ)},
+          {"sPai", sTexto(c.sPai)},
+          {"sMae", sTexto(c.sMae)},
+          {"sEmail", sTexto(c.sEmail)},
+          {"dtNascimento", "#" + Validacoes::sGetDataSQL(c.dtNascimento) + "#"},
+          {"sHomePage", sTexto(c.sHomePage)},
+          {"txtObs", sTexto(c.txtObs)},
+          {"sEnderecoEntrega", sTexto(c.sEnderecoEntrega)},
+          {"sBairroEntrega", sTexto(c.sBairroEntrega)},
+          {"sCEPEntrega", sTexto(c.sCEPEntrega)},
+          {"sEnderecoCobranca", sTexto(c.sEnderecoCobranca)},
+          {"sBairroCobranca", sTexto(c.sBairroCobranca)},
+          {"sCEPCobranca", sTexto(c.sCEPCobranca)}};
+}
+
+std::vector<std::int32_t> incluirClientes(Contexto& contexto, const std::vector<std::int32_t>& chavesCategorias,
+                                          const std::vector<std::int32_t>& chavesVendedores) {
+  Sistema sistema(contexto);
+  std::vector<std::int32_t> chavesCidades;
+  for (const CidadeDaRegiao& cidade : cidades) chavesCidades.push_back(lCidade(contexto.dbEmpresa().Dados(), cidade));
+  std::vector<std::int32_t> clientes;
+  for (std::uint32_t i = 0; i < quantosClientes; ++i) {
+    Sorteio sorteio(semente, 20, i);
+    // One customer in ten was stored without a category, one in eight without a salesperson; half of them live where
+    // the firm is.
+    const std::int32_t lCategoria =
+        sorteio.porCento(10) ? sistema.lGetCategoriaPadrao() : sorteio.umDe(chavesCategorias);
+    const std::int32_t lVendedor = sorteio.porCento(12) ? sistema.lGetVendedorPadrao() : sorteio.umDe(chavesVendedores);
+    const std::int32_t lCidadeCliente = sorteio.porCento(50) ? chavesCidades.front() : sorteio.umDe(chavesCidades);
+    ValoresSQL valores = valoresCliente(exemplo::cliente(semente, i));
+    for (const char* sCampo : {"lCidade", "lCidadeEntrega", "lCidadeCobranca"})
+      valores.emplace_back(sCampo, std::to_string(lCidadeCliente));
+    valores.emplace_back("lCategoria", std::to_string(lCategoria));
+    valores.emplace_back("lVendedor", std::to_string(lVendedor));
+    clientes.push_back(lIncluir(contexto, "Clientes", "lCodigoInf", std::move(valores)));
+  }
+  return clientes;
+}
+
+}  // namespace
+
+std::string sTexto(const std::string& sValor) { return "'" + Validacoes::sGetStringSQL(sValor) + "'"; }
+
+void vExecutar(Connection& conexao, const std::string& sSQL) {
+  Recordset(sSQL, conexao, CursorType::dynamic, LockType::pessimistic);
+}
+
+void vCadastrarPrograma(Contexto& contexto) {
+  Connection& dados = contexto.dbConectar().Dados();
+  vCadastrarUsuario(dados, "ADMINISTRADOR", "admin", true);
+  vCadastrarUsuario(dados, "MARIA", "maria", false);
+
+  ValoresSQL firma = dadosDaFirma(dados);
+  firma.insert(firma.end(), {{"fPercentualJurosDia", "0.033"},
+                             {"fPercentualJurosMes", "1"},
+                             {"btOpcaoReparcelamento", "1"},
+                             {"bitMostrarContasPagarDia", "0"},
+                             {"bitMostrarContasReceberDia", "0"},
+                             {"bitMostrarContasVencidasPagar", "0"},
+                             {"bitMostrarContasVencidasReceber", "0"}});
+  vExecutar(dados, sComandoInclusao("Sistema", firma));
+  vExecutar(dados, sComandoInclusao("Configuracoes", {{"sSMTP", sTexto("smtp.fenvale.example")},
+                                                      {"sEmailRementente", sTexto("contato@fenvale.example")},
+                                                      {"sUID", "''"},
+                                                      {"sPWD", "''"},
+                                                      {"bitAutenticacao", "0"},
+                                                      {"lTamanhoPagina", "100"},
+                                                      {"bitExibirLoginUsuarios", "0"},
+                                                      {"sNomeImpressora", sTexto(pdfPrinterName)},
+                                                      {"bitImprimirEntrada", "-1"}}));
+}
+
+void vCadastrarDadosEmpresa(Contexto& contexto) {
+  Connection& dados = contexto.dbEmpresa().Dados();
+  ValoresSQL valores = dadosDaFirma(dados);
+  valores.insert(valores.end(), {{"txtCaminhoFigura", "''"}, {"txtFiguraPromissoria", "''"}, {"sCPF", "''"}});
+  vExecutar(dados, sComandoInclusao("DadosEmpresa", valores));
+}
+
+Registros cadastrarEmpresa(Contexto& contexto) {
+  Registros registros;
+  const auto chavesCategorias = incluirNomes(contexto, "Categorias", "sNome", categorias);
+  registros.centrosCusto = incluirNomes(contexto, "CentroCusto", "sDescricao", centrosCusto);
+  registros.centrosCusto.push_back(Sistema(contexto).lGetCentroCustoPadrao());
+  registros.portadores = incluirNomes(contexto, "Portadores", "sNome", portadores);
+  for (std::uint32_t i = 0; i < quantosVendedores; ++i)
+    registros.vendedores.push_back(
+        lIncluir(contexto, "Vendedores", "lCodigoInf", {{"sNome", sTexto(exemplo::sNomePessoa(semente, i))}}));
+  for (CondicaoPagamento condicao : condicoes) {
+    condicao.lCodigo = lIncluir(contexto, "CondicoesPagamento", "btCodigoInf",
+                                {{"iNumeroParcelas", std::to_string(condicao.iNumeroParcelas)},
+                                 {"iIntervalo", std::to_string(condicao.iIntervalo)},
+                                 {"bitEntrada", condicao.bEntrada ? "-1" : "0"}});
+    registros.condicoes.push_back(condicao);
+  }
+  registros.clientes = incluirClientes(contexto, chavesCategorias, registros.vendedores);
+  return registros;
+}
+
+}  // namespace fenvale::demonstracao
