@@ -2,7 +2,6 @@
 
 #include "access/services/Permissoes.h"
 #include "platform/base/Text.h"
-#include "registers/services/BotaoOcupado.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Teclas.h"
 #include "shell/services/Telas.h"
@@ -81,11 +80,13 @@ void TelaBuscaCompleta::vLocalizar(Screen& chamador) {
 
 void TelaBuscaCompleta::cmdLocalizar_Click() try {
   if (!contexto().permissoes().bGetPesquisar()) return;
-  const BotaoOcupado ocupado(cmdLocalizar);
+  cmdLocalizar.setEnabled(false);
   auto* lista = dynamic_cast<TelaComLista*>(chamador_);
   if (lista == nullptr) throw Error(Telas::operacaoInexistente, chamador_->sGetName() + " não tem lista.");
   lista->vMontarLista(0, sClausula());
+  cmdLocalizar.setEnabled(true);
 } catch (const Error& falha) {
+  cmdLocalizar.setEnabled(true);
   vRegistrarFalha(falha, "cmdLocalizar_Click", 2);
 }
 

@@ -1,7 +1,6 @@
 #include "registers/screens/TelaEscolha.h"
 
 #include "access/services/Permissoes.h"
-#include "registers/services/BotaoOcupado.h"
 #include "shell/services/Contexto.h"
 #include "store/services/ConfiguracoesPrograma.h"
 
@@ -39,9 +38,11 @@ void TelaEscolha::vAbrir() {
 
 void TelaEscolha::cmdLocalizar_Click() try {
   if (!permissoes().bGetPesquisar()) return;
-  const BotaoOcupado ocupado(cmdLocalizar);
+  cmdLocalizar.setEnabled(false);
   vMontarLista(0);
+  cmdLocalizar.setEnabled(true);
 } catch (const Error& falha) {
+  cmdLocalizar.setEnabled(true);
   if (falha.number != errors::invalidPropertyValue) vRegistrarFalha(falha, "cmdLocalizar_Click", 2);
 }
 

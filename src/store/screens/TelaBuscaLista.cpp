@@ -2,7 +2,6 @@
 
 #include "access/services/Permissoes.h"
 #include "platform/base/Text.h"
-#include "registers/services/BotaoOcupado.h"
 #include "shell/services/Validacoes.h"
 
 namespace fenvale {
@@ -42,8 +41,9 @@ void TelaBuscaLista::vBuscarEMostrar() {
 
 void TelaBuscaLista::cmdLocalizar_Click() {
   if (!permissoes().bGetPesquisar()) return;
-  const BotaoOcupado ocupado(cmdLocalizar);
+  cmdLocalizar.setEnabled(false);
   vMostrarAPartirDe(0);
+  cmdLocalizar.setEnabled(true);
 }
 
 void TelaBuscaLista::vMostrarAPartirDe(std::int16_t iInicio) try {

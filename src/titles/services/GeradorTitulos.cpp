@@ -27,10 +27,8 @@ std::string sComandoInclusao(const std::string& sTabela, const ValoresSQL& valor
 
 std::string sComandoAlteracao(const std::string& sTabela, const ValoresSQL& valores, std::int32_t lCodigo) {
   std::string sAtribuicoes;
-  for (const auto& [sColuna, sLiteral] : valores) {
-    if (!sAtribuicoes.empty()) sAtribuicoes += ", ";
-    sAtribuicoes.append(sColuna).append(" = ").append(sLiteral);
-  }
+  for (const auto& [sColuna, sLiteral] : valores)
+    sAtribuicoes += (sAtribuicoes.empty() ? "" : ", ") + sColuna + " = " + sLiteral;
   return "UPDATE " + sTabela + " SET " + sAtribuicoes + " WHERE lCodigo = " + std::to_string(lCodigo);
 }
 
