@@ -17,5 +17,5 @@ cmake --install build/release --prefix "$prova/instalacao" >/dev/null
 if [ -x "$prova/instalacao/fenvale-passeio" ]; then
   mkdir -p "$prova/offscreen" "$prova/xcb"
   QT_QPA_PLATFORM=offscreen "$prova/instalacao/fenvale-passeio" "$prova/offscreen"
-  QT_QPA_PLATFORM=xcb tests/gui/sob-x.sh "$prova/instalacao/fenvale-passeio" "$prova/xcb"
+  QT_QPA_PLATFORM=xcb tests/gui/sob-x.sh -t 2048x1536 "$prova/instalacao/fenvale-passeio" "$prova/xcb"
 fi

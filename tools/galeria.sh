@@ -17,10 +17,10 @@ while read -r taken name; do
   [ ${#found[@]} -eq 1 ] && [ -f "${found[0]}" ] || { echo "galeria.sh: the tour took no picture $taken" >&2; exit 1; }
   cp "${found[0]}" "docs/galeria/$name.png"
 done <<'PICTURES'
-*-de-volta.png janela-principal
-*-cliente.png cliente
-*-fatura.png fatura
-*-juros.png titulos
+[0-9][0-9][0-9]-de-volta.png janela-principal
+[0-9][0-9][0-9]-cliente.png cliente
+[0-9][0-9][0-9]-fatura.png fatura
+[0-9][0-9][0-9]-juros.png titulos
 telas/frmCadastroTitulosReceber-escuro.png titulos-escuro
 telas/frmCadastroUsuarios-claro.png usuarios
 PICTURES

@@ -146,13 +146,14 @@ void prepararPasta(const std::string& pasta) {
   }
 }
 
-/// The offscreen platform's own monitor is smaller than any clerk's.
-void descreverMonitor(const std::string& pasta) {
+/// The offscreen platform's own monitor is smaller than any clerk's; one of twice the scale has more points.
+void descreverMonitor(const std::string& pasta, bool emDobro) {
   const char* const plataforma = std::getenv("QT_QPA_PLATFORM");
-  if (plataforma == nullptr || std::string(plataforma) != "offscreen") return;
+  if (plataforma == nullptr || !std::string(plataforma).starts_with("offscreen")) return;
   const std::string arquivo = pasta + "/monitor.json";
-  std::ofstream(arquivo) << R"({"screens": [{"name": "monitor", "x": 0, "y": 0, "width": 1280, "height": 1024,
-    "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
+  std::ofstream(arquivo) << R"({"screens": [{"name": "monitor", "x": 0, "y": 0, )"
+                         << (emDobro ? R"("width": 2048, "height": 1536)" : R"("width": 1280, "height": 1024)")
+                         << R"(, "logicalDpi": 96, "logicalBaseDpi": 96, "dpr": 1}]})";
   setenv("QT_QPA_PLATFORM", ("offscreen:configfile=" + arquivo).c_str(), 1);
 }
 
@@ -160,6 +161,7 @@ void descreverMonitor(const std::string& pasta) {
 int correrEmProcesso(std::size_t numero, const std::string& pasta) {
   const pid_t filho = fork();
   if (filho == 0) {
+    descreverMonitor(pasta, corridas()[numero].emDobro);
     if (corridas()[numero].emDobro) setenv("QT_SCALE_FACTOR", "2", 1);
     const std::string qual = std::to_string(numero);
     execl("/proc/self/exe", "fenvale-passeio", "--corrida", qual.c_str(), pasta.c_str(), nullptr);
@@ -172,7 +174,6 @@ int correrEmProcesso(std::size_t numero, const std::string& pasta) {
 
 int passear(const std::string& pasta) {
   prepararPasta(pasta);
-  descreverMonitor(pasta);
   for (std::size_t numero = 0; numero < corridas().size(); ++numero) {
     const Corrida& corrida = corridas()[numero];
     std::fprintf(stderr, "%s\n", corrida.nome);

@@ -2,6 +2,7 @@
 
 #include "access/services/Permissoes.h"
 #include "platform/base/Text.h"
+#include "registers/services/BotaoOcupado.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Teclas.h"
 #include "shell/services/Telas.h"
@@ -80,13 +81,11 @@ void TelaBuscaCompleta::vLocalizar(Screen& chamador) {
 
 void TelaBuscaCompleta::cmdLocalizar_Click() try {
   if (!contexto().permissoes().bGetPesquisar()) return;
-  cmdLocalizar.setEnabled(false);
+  const BotaoOcupado ocupado(cmdLocalizar);
   auto* lista = dynamic_cast<TelaComLista*>(chamador_);
   if (lista == nullptr) throw Error(Telas::operacaoInexistente, chamador_->sGetName() + " não tem lista.");
   lista->vMontarLista(0, sClausula());
-  cmdLocalizar.setEnabled(true);
 } catch (const Error& falha) {
-  cmdLocalizar.setEnabled(true);
   vRegistrarFalha(falha, "cmdLocalizar_Click", 2);
 }
 

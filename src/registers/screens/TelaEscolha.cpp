@@ -1,6 +1,7 @@
 #include "registers/screens/TelaEscolha.h"
 
 #include "access/services/Permissoes.h"
+#include "registers/services/BotaoOcupado.h"
 #include "shell/services/Contexto.h"
 #include "store/services/ConfiguracoesPrograma.h"
 
@@ -38,11 +39,9 @@ void TelaEscolha::vAbrir() {
 
 void TelaEscolha::cmdLocalizar_Click() try {
   if (!permissoes().bGetPesquisar()) return;
-  cmdLocalizar.setEnabled(false);
+  const BotaoOcupado ocupado(cmdLocalizar);
   vMontarLista(0);
-  cmdLocalizar.setEnabled(true);
 } catch (const Error& falha) {
-  cmdLocalizar.setEnabled(true);
   if (falha.number != errors::invalidPropertyValue) vRegistrarFalha(falha, "cmdLocalizar_Click", 2);
 }
 

@@ -2,6 +2,7 @@
 
 #include "access/services/Permissoes.h"
 #include "platform/base/Text.h"
+#include "registers/services/BotaoOcupado.h"
 #include "shell/services/Validacoes.h"
 
 namespace fenvale {
@@ -41,9 +42,8 @@ void TelaBuscaLista::vBuscarEMostrar() {
 
 void TelaBuscaLista::cmdLocalizar_Click() {
   if (!permissoes().bGetPesquisar()) return;
-  cmdLocalizar.setEnabled(false);
+  const BotaoOcupado ocupado(cmdLocalizar);
   vMostrarAPartirDe(0);
-  cmdLocalizar.setEnabled(true);
 }
 
 void TelaBuscaLista::vMostrarAPartirDe(std::int16_t iInicio) try {

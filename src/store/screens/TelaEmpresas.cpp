@@ -26,7 +26,7 @@ TelaEmpresas::TelaEmpresas(Contexto& contexto, std::string sNome, ListView::Chec
     : TelaPaginada(contexto, std::move(sNome), marcas) {
   setCaption("Empresa");
   vSetColunas({
-      {.sCabecalho = "Código", .fLargura = 1000, .sCampo = "lCodigo", .sMascara = "00000"},
+      {.sCabecalho = "Código", .fLargura = 1300, .sCampo = "lCodigo", .sMascara = "00000"},
       {.sCabecalho = "Nome do arquivo", .fLargura = 3400, .sCampo = "sNomeArquivo"},
       {.sCabecalho = "Caminho", .fLargura = 6000, .sCampo = "sCaminho"},
   });

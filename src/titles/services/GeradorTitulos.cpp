@@ -27,8 +27,10 @@ std::string sComandoInclusao(const std::string& sTabela, const ValoresSQL& valor
 
 std::string sComandoAlteracao(const std::string& sTabela, const ValoresSQL& valores, std::int32_t lCodigo) {
   std::string sAtribuicoes;
-  for (const auto& [sColuna, sLiteral] : valores)
-    sAtribuicoes += (sAtribuicoes.empty() ? "" : ", ") + sColuna + " = " + sLiteral;
+  for (const auto& [sColuna, sLiteral] : valores) {
+    if (!sAtribuicoes.empty()) sAtribuicoes += ", ";
+    sAtribuicoes.append(sColuna).append(" = ").append(sLiteral);
+  }
   return "UPDATE " + sTabela + " SET " + sAtribuicoes + " WHERE lCodigo = " + std::to_string(lCodigo);
 }
 

@@ -188,5 +188,21 @@ TEST_F(CadastrosEmJanelas, ARightClickLeadsToTheTitlesOfTheCustomer) {
   tela.unload();
 }
 
+TEST_F(CadastrosEmJanelas, SearchingAgainAndAgainFromItsButtonClosesNothing) {
+  abrir("frmCadastroCategorias");
+  for (const char* sTela : {"frmLocalizarCategorias", "frmLocalizarCategoriasRapido"}) {
+    whenOpened(host, [&] {
+      Screen& busca = *host.activeScreen();
+      busca.control("cmdLocalizar")->setFocus();
+      for (int i = 0; i < 3; ++i) tecla(Qt::Key_Space);
+      EXPECT_EQ(busca.state(), Screen::State::loaded) << sTela;
+      EXPECT_TRUE(busca.control("cmdLocalizar")->hasFocus()) << sTela;
+      busca.unload();
+    });
+    programa.telas().obter<TelaBusca>(sTela).vLocalizar(programa.telas().obter("frmCadastroCategorias"));
+  }
+  programa.telas().obter("frmCadastroCategorias").unload();
+}
+
 }  // namespace
 }  // namespace fenvale::qt

@@ -38,6 +38,20 @@ TEST_F(Controles, LabelsAreReadAloudWithoutTheirMarks) {
   EXPECT_EQ(widgetOf(tela.txtCodigo)->toolTip(), "0 a 255");
 }
 
+TEST_F(Controles, ATextTakesNoMoreLinesThanItNeeds) {
+  auto& help = widget<QLabel>(tela.lblAjuda);
+  const int line = help.fontMetrics().lineSpacing();
+  EXPECT_LT(help.height(), 3 * line);
+  windowOf(tela)->resize(700, 700);
+  QCoreApplication::processEvents();
+  EXPECT_GE(help.height(), 2 * line);
+  windowOf(tela)->resize(1000, 700);
+  QCoreApplication::processEvents();
+  EXPECT_LT(help.height(), 3 * line) << "it gives the room back";
+  tela.lblTotal.setCaption("Total R$ 1,00");
+  EXPECT_EQ(widget<QLabel>(tela.lblTotal).text(), "Total R$ 1,00");
+}
+
 TEST_F(Controles, AHiddenControlTakesItsLabelAlong) {
   QWidget* const field = widgetOf(tela.txtSenha)->parentWidget();
   ASSERT_TRUE(field->isVisible());

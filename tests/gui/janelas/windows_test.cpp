@@ -220,8 +220,8 @@ TEST_F(Janelas, AFailureInATimerIsThrownByThePumpThatRanIt) {
   Pequena tela(host);
   Timer timer(tela, "tmpFalha");
   timer.onTick = [] { throw ProgramEnded{1}; };
-  timer.setInterval(1);
   host.show(tela);
+  timer.setInterval(1);
   const auto start = host.elapsed();
   const auto pump = [&] {
     while (host.elapsed() - start < std::chrono::seconds(5)) host.doEvents();

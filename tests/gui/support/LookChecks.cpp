@@ -67,7 +67,7 @@ std::vector<std::string> cutTexts(const QWidget& window) {
   std::vector<std::string> faults;
   for (const QWidget* widget : shownWidgets(window)) {
     if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && !label->wordWrap()) {
-      checkFits(*label, label->text(), label->sizeHint().width(), label->width(), faults);
+      checkFits(*label, label->text(), label->minimumSizeHint().width(), label->width(), faults);
       checkFits(*label, label->text(), label->fontMetrics().height(), label->height(), faults);
     } else if (const auto* wrapped = qobject_cast<const QLabel*>(widget)) {
       checkFits(*wrapped, wrapped->text(), wrapped->heightForWidth(wrapped->width()), wrapped->height(), faults);

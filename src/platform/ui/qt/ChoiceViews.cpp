@@ -149,11 +149,11 @@ class LinesLabel final : public QLabel {
   explicit LinesLabel(int widest) : widest_(widest) { setWordWrap(true); }
   void showText(const QString& text) {
     setText(text);
-    fit();
     updateGeometry();
+    fit();
   }
   bool hasHeightForWidth() const override { return false; }
-  QSize sizeHint() const override { return {std::min(naturalWidth(), widest_), minimumHeight()}; }
+  QSize sizeHint() const override { return {std::min(naturalWidth(), widest_), height_}; }
   QSize minimumSizeHint() const override { return sizeHint(); }
 
  protected:
@@ -171,11 +171,13 @@ class LinesLabel final : public QLabel {
   /// Before the first layout a widget has a width that means nothing: a help text then counts as one of ordinary width.
   void fit() {
     const int width = testAttribute(Qt::WA_Resized) ? this->width() : 18 * measures::unit;
-    setMinimumHeight(std::max(QLabel::heightForWidth(width), measures::textLine));
+    const int needed = std::max(QLabel::heightForWidth(width), measures::textLine);
+    if (std::exchange(height_, needed) != needed) updateGeometry();
   }
 
   static constexpr int hintPadding = 30;
   int widest_;
+  int height_ = measures::textLine;
 };
 
 class LabelBinding final : public BindingOf<Label, LinesLabel> {
