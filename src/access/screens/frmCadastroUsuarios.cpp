@@ -61,6 +61,7 @@ void frmCadastroUsuarios::onLoad() try {
   }
   if (!bHaUsuarios()) return vIniciarPrimeiroUso();
   vLimpar();
+  txtNome.setFocus();
 } catch (const Error& falha) {
   vRegistrarFalha(falha, "Form_Load");
 }

@@ -11,8 +11,8 @@ frmLocalizarUsuarios::frmLocalizarUsuarios(Contexto& contexto)
   setTitle("Localizar usuário");
   vSetColunas({
       {.sCabecalho = "Código", .fLargura = 1000, .sCampo = "lCodigo", .sMascara = "00000"},
-      {.sCabecalho = "Nome", .fLargura = 5200, .sCampo = "sNomeUsuario"},
-      {.sCabecalho = "Login", .fLargura = 2400, .sCampo = "sLogin"},
+      {.sCabecalho = "Nome", .fLargura = 4200, .sCampo = "sNomeUsuario"},
+      {.sCabecalho = "Login", .fLargura = 2200, .sCampo = "sLogin"},
   });
 }
 
