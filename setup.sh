@@ -13,7 +13,7 @@ programa=(
   cmake ninja-build g++
   qt6-base-dev "qt6-svg-dev|libqt6svg6-dev" "qt6-svg-plugins|libqt6svg6" qt6-wayland
   libsqlite3-dev libxml2-dev libcurl4-openssl-dev libcups2-dev
-  fonts-inter tzdata
+  qt6-translations-l10n fonts-inter tzdata
 )
 testes=(
   libgtest-dev libgmock-dev

@@ -52,7 +52,7 @@ printf '#!/bin/sh\ncat "%s/user"\n' "$place" >"$tools/id"
 chmod +x "$tools/dpkg-query" "$tools/apt-cache" "$tools/apt-get" "$tools/sudo" "$tools/id"
 
 base="cmake ninja-build g++ qt6-base-dev qt6-svg-dev libqt6svg6 qt6-wayland libsqlite3-dev libxml2-dev \
-libcurl4-openssl-dev libcups2-dev fonts-inter tzdata"
+libcurl4-openssl-dev libcups2-dev qt6-translations-l10n fonts-inter tzdata"
 
 # system INSTALLED KNOWN SERVER
 system() {

@@ -2,8 +2,11 @@
 //
 // Shows every control in every state, in a window; with --figuras saves a picture of each page instead and ends.
 
+#include <QAction>
 #include <QApplication>
+#include <QComboBox>
 #include <QFile>
+#include <QLineEdit>
 #include <QTabWidget>
 #include <QTimer>
 #include <iostream>
@@ -36,6 +39,20 @@ void takePictures(qt::QtHost& host, const std::string& folder) {
     tabs.setCurrentIndex(page);
     picture(tela, name);
   }
+  tabs.setCurrentIndex(0);
+  const auto popup = [&](const std::string& name) {
+    host.doEvents();
+    if (QWidget* const open = QApplication::activePopupWidget()) {
+      open->grab().save(QString::fromStdString(folder + "/" + name + ".png"));
+      open->close();
+    }
+  };
+  qobject_cast<QLineEdit*>(qt::widgetOf(tela.dtVencimento))->actions().front()->trigger();
+  popup("calendario");
+  qobject_cast<QComboBox*>(qt::widgetOf(tela.cmbMes))->showPopup();
+  popup("combo");
+  QTimer::singleShot(50, &host, [&] { popup("menu"); });
+  tela.mnuLista.show();
   for (const auto& [style, name] :
        {std::pair(BoxStyle::question, "pergunta"), std::pair(BoxStyle::exclamation, "aviso"),
         std::pair(BoxStyle::critical, "falha"), std::pair(BoxStyle::information, "informacao")}) {

@@ -254,6 +254,7 @@ TEST_F(Janelas, AScreenThatDiesShownTakesItsWindowAlong) {
 TEST_F(Janelas, AMnemonicLeadsToItsField) {
   Pequena tela(host);
   host.show(tela);
+  ASSERT_TRUE(QTest::qWaitForWindowActive(windowOf(tela)));
   tela.cmdFazer.setFocus();
   QTest::keyClick(windowOf(tela), Qt::Key_N, Qt::AltModifier);
   EXPECT_TRUE(tela.txtNome.hasFocus());

@@ -122,6 +122,7 @@ void DateBinding::openCalendar() {
   auto* const column = new QVBoxLayout(frame);
   column->setContentsMargins(4, 4, 4, 4);
   auto* const calendar = new QCalendarWidget;
+  calendar->setMinimumSize(8 * measures::unit, 6 * measures::unit);
   dress(*calendar, host().theme().tokens());
   const QDate chosen = QDate::fromString(toQt(formatDate(control().value())), shownAs);
   if (chosen.isValid()) calendar->setSelectedDate(chosen);

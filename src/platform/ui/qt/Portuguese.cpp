@@ -16,7 +16,7 @@ constexpr Pair phrases[] = {
     {"&Redo", "&Refazer"},
     {"Cu&t", "Recor&tar"},
     {"&Copy", "&Copiar"},
-    {"&Paste", "Co&lar"},
+    {"&Paste", "C&olar"},
     {"Delete", "Excluir"},
     {"Select All", "Selecionar tudo"},
     {"OK", "OK"},
