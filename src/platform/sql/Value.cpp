@@ -51,21 +51,21 @@ std::string dateText(DateTime moment) {
 }  // namespace
 
 ValueType Value::type() const {
-  return std::visit(Overloaded{[](std::monostate) { return ValueType::null; },
-                               [](std::int64_t) { return ValueType::integer; },
-                               [](Currency) { return ValueType::currency; }, [](double) { return ValueType::decimal; },
-                               [](DateTime) { return ValueType::date; }, [](bool) { return ValueType::boolean; },
-                               [](const std::string&) { return ValueType::text; }},
-                    content_);
+  return std::visit(
+      Overloaded{[](std::monostate) { return ValueType::null; }, [](std::int64_t) { return ValueType::integer; },
+                 [](Currency) { return ValueType::currency; }, [](double) { return ValueType::decimal; },
+                 [](DateTime) { return ValueType::date; }, [](bool) { return ValueType::boolean; },
+                 [](const std::string&) { return ValueType::text; }},
+      content_);
 }
 
 double Value::toDouble() const {
-  return std::visit(
-      Overloaded{[](std::monostate) -> double { failNull(); }, [](std::int64_t number) { return static_cast<double>(number); },
-                 [](Currency amount) { return amount.toDouble(); }, [](double number) { return number; },
-                 [](DateTime) -> double { failType(); }, [](bool truth) { return truth ? -1.0 : 0.0; },
-                 [](const std::string& text) { return numberOf(text); }},
-      content_);
+  return std::visit(Overloaded{[](std::monostate) -> double { failNull(); },
+                               [](std::int64_t number) { return static_cast<double>(number); },
+                               [](Currency amount) { return amount.toDouble(); }, [](double number) { return number; },
+                               [](DateTime) -> double { failType(); }, [](bool truth) { return truth ? -1.0 : 0.0; },
+                               [](const std::string& text) { return numberOf(text); }},
+                    content_);
 }
 
 std::int32_t Value::toLong() const {
@@ -112,11 +112,11 @@ std::string Value::toText() && {
 
 std::string Value::toText() const& {
   return std::visit(
-      Overloaded{[](std::monostate) { return std::string(); }, [](std::int64_t number) { return std::to_string(number); },
-                 [](Currency amount) { return amount.toDecimal(); }, [](double number) { return decimalText(number); },
-                 [](DateTime moment) { return dateText(moment); },
-                 [](bool truth) { return std::string(truth ? "-1" : "0"); },
-                 [](const std::string& text) { return text; }},
+      Overloaded{
+          [](std::monostate) { return std::string(); }, [](std::int64_t number) { return std::to_string(number); },
+          [](Currency amount) { return amount.toDecimal(); }, [](double number) { return decimalText(number); },
+          [](DateTime moment) { return dateText(moment); }, [](bool truth) { return std::string(truth ? "-1" : "0"); },
+          [](const std::string& text) { return text; }},
       content_);
 }
 

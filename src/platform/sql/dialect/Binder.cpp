@@ -35,8 +35,8 @@ void addStar(BoundSelect& select) {
       value.column = column;
       value.type = source.table ? valueTypeOf(source.table->columns[column].type.kind)
                                 : source.select->columns[column].value.type;
-      select.columns.push_back({source.table ? source.table->columns[column].name : source.select->columns[column].name,
-                                std::move(value)});
+      select.columns.push_back(
+          {source.table ? source.table->columns[column].name : source.select->columns[column].name, std::move(value)});
     }
   }
 }
@@ -95,7 +95,8 @@ BoundInsert bindInsert(const InsertStatement& insert, BindContext& context) {
     const ColumnDefinition& column = bound.table->columns[place];
     for (const BoundAssignment& other : bound.assignments)
       if (other.column == column.name)
-        throw Error(errors::syntax, "O campo " + column.name + " aparece duas vezes na inclusão em " + bound.table->name + ".");
+        throw Error(errors::syntax,
+                    "O campo " + column.name + " aparece duas vezes na inclusão em " + bound.table->name + ".");
     bound.assignments.push_back({column.name, binder.bindAssignment(*assignment.value, *bound.table, column)});
   }
   return bound;

@@ -62,7 +62,8 @@ class ExpressionBinder final : private ExpressionVisitor {
   BoundExpression bindCondition(const Expression& expression);
   /// The operands of AND one by one.
   void bindConditions(const Expression& expression, std::vector<BoundExpression>& conditions);
-  BoundExpression bindAssignment(const Expression& value, const TableDescription& table, const ColumnDefinition& column);
+  BoundExpression bindAssignment(const Expression& value, const TableDescription& table,
+                                 const ColumnDefinition& column);
 
  private:
   void visit(const LiteralExpression& node) override;

@@ -17,12 +17,18 @@ std::string written(const Expression& expression) {
 
 Operation comparisonOf(Operator operation) {
   switch (operation) {
-    case Operator::equal: return Operation::equal;
-    case Operator::notEqual: return Operation::notEqual;
-    case Operator::less: return Operation::less;
-    case Operator::greater: return Operation::greater;
-    case Operator::lessEqual: return Operation::lessEqual;
-    default: return Operation::greaterEqual;
+    case Operator::equal:
+      return Operation::equal;
+    case Operator::notEqual:
+      return Operation::notEqual;
+    case Operator::less:
+      return Operation::less;
+    case Operator::greater:
+      return Operation::greater;
+    case Operator::lessEqual:
+      return Operation::lessEqual;
+    default:
+      return Operation::greaterEqual;
   }
 }
 
@@ -40,7 +46,8 @@ std::size_t columnOf(const BoundSource& source, const std::string& name) {
 }
 
 ValueType typeOf(const BoundSource& source, std::size_t column) {
-  return source.table ? valueTypeOf(source.table->columns[column].type.kind) : source.select->columns[column].value.type;
+  return source.table ? valueTypeOf(source.table->columns[column].type.kind)
+                      : source.select->columns[column].value.type;
 }
 
 }  // namespace
@@ -99,10 +106,17 @@ void ExpressionBinder::visit(const LiteralExpression& node) {
   Parameter parameter;
   parameter.literal = node.index();
   switch (node.kind()) {
-    case TokenKind::Integer: parameter.type = ValueType::integer; break;
-    case TokenKind::Decimal: parameter.type = ValueType::decimal; break;
-    case TokenKind::Date: parameter.type = ValueType::date; break;
-    default: parameter.type = ValueType::text;
+    case TokenKind::Integer:
+      parameter.type = ValueType::integer;
+      break;
+    case TokenKind::Decimal:
+      parameter.type = ValueType::decimal;
+      break;
+    case TokenKind::Date:
+      parameter.type = ValueType::date;
+      break;
+    default:
+      parameter.type = ValueType::text;
   }
   become(Operation::parameter, parameter.type, {});
   result_.source = context_.parameters.size();
@@ -111,9 +125,12 @@ void ExpressionBinder::visit(const LiteralExpression& node) {
 
 void ExpressionBinder::visit(const ConstantExpression& node) {
   switch (node.kind()) {
-    case TokenKind::True: return become(Operation::trueValue, ValueType::boolean, {});
-    case TokenKind::False: return become(Operation::falseValue, ValueType::boolean, {});
-    default: return become(Operation::null, ValueType::null, {});
+    case TokenKind::True:
+      return become(Operation::trueValue, ValueType::boolean, {});
+    case TokenKind::False:
+      return become(Operation::falseValue, ValueType::boolean, {});
+    default:
+      return become(Operation::null, ValueType::null, {});
   }
 }
 
@@ -229,7 +246,8 @@ void ExpressionBinder::visit(const BetweenExpression& node) {
   BoundExpression value = bind(node.value());
   BoundExpression low = bind(node.low());
   BoundExpression high = bind(node.high());
-  const bool money = value.type == ValueType::currency || low.type == ValueType::currency || high.type == ValueType::currency;
+  const bool money =
+      value.type == ValueType::currency || low.type == ValueType::currency || high.type == ValueType::currency;
   if (money) value = types_.convert(std::move(value), ValueType::currency, written(node));
   types_.unify(value, low, written(node));
   types_.unify(value, high, written(node));
@@ -243,11 +261,11 @@ void ExpressionBinder::visit(const NullTestExpression& node) {
 
 void ExpressionBinder::visit(const CallExpression& node) {
   const Function* function = findFunction(node.function());
-  if (function == nullptr)
-    throw Error(errors::syntax, "A função " + node.function() + " não existe.");
+  if (function == nullptr) throw Error(errors::syntax, "A função " + node.function() + " não existe.");
   const std::size_t count = node.star() ? 1 : node.arguments().size();
   if (count < function->least || count > function->most)
-    throw Error(errors::syntax, "A função " + node.function() + " não aceita " + std::to_string(count) + " argumentos.");
+    throw Error(errors::syntax,
+                "A função " + node.function() + " não aceita " + std::to_string(count) + " argumentos.");
   (this->*function->bind)(node);
 }
 

@@ -69,12 +69,19 @@ void ExpressionBinder::bindFormat(const CallExpression& call) {
       value = types_.convert(std::move(value), ValueType::currency, call.function());
       operation = Operation::formatCurrency;
       break;
-    case ValueType::currency: operation = Operation::formatCurrency; break;
-    case ValueType::date: operation = Operation::formatDate; break;
+    case ValueType::currency:
+      operation = Operation::formatCurrency;
+      break;
+    case ValueType::date:
+      operation = Operation::formatDate;
+      break;
     case ValueType::integer:
-    case ValueType::boolean: operation = Operation::formatInteger; break;
+    case ValueType::boolean:
+      operation = Operation::formatInteger;
+      break;
     case ValueType::null:
-    case ValueType::text: break;
+    case ValueType::text:
+      break;
   }
   become(operation, ValueType::text, {std::move(value)});
   result_.text = std::move(mask);
@@ -91,8 +98,7 @@ void ExpressionBinder::bindDatePart(const CallExpression& call) {
 }
 
 void ExpressionBinder::bindDaysBetween(const CallExpression& call) {
-  if (toLower(fixedText(call, 0)) != "d")
-    throw Error(errors::invalidCall, "DATEDIFF só conta dias ('d').");
+  if (toLower(fixedText(call, 0)) != "d") throw Error(errors::invalidCall, "DATEDIFF só conta dias ('d').");
   BoundExpression first = argument(call, 1);
   BoundExpression second = argument(call, 2);
   for (const BoundExpression* date : {&first, &second})

@@ -54,19 +54,25 @@ BoundExpression TypeRules::convert(BoundExpression value, ValueType type, std::s
       if (from == ValueType::text) return wrap(Operation::textToNumber, ValueType::decimal, std::move(value));
       if (from == ValueType::currency) return wrap(Operation::currencyToDecimal, ValueType::decimal, std::move(value));
       return value;
-    default: failTypes(what);
+    default:
+      failTypes(what);
   }
 }
 
 BoundExpression TypeRules::toText(BoundExpression value) {
   switch (value.type) {
     case ValueType::null:
-    case ValueType::text: return value;
-    case ValueType::currency: return wrap(Operation::currencyToText, ValueType::text, std::move(value));
-    case ValueType::decimal: return wrap(Operation::decimalToText, ValueType::text, std::move(value));
-    case ValueType::date: return wrap(Operation::dateToText, ValueType::text, std::move(value));
+    case ValueType::text:
+      return value;
+    case ValueType::currency:
+      return wrap(Operation::currencyToText, ValueType::text, std::move(value));
+    case ValueType::decimal:
+      return wrap(Operation::decimalToText, ValueType::text, std::move(value));
+    case ValueType::date:
+      return wrap(Operation::dateToText, ValueType::text, std::move(value));
     case ValueType::integer:
-    case ValueType::boolean: return wrap(Operation::integerToText, ValueType::text, std::move(value));
+    case ValueType::boolean:
+      return wrap(Operation::integerToText, ValueType::text, std::move(value));
   }
   return value;
 }

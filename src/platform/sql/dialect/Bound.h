@@ -17,19 +17,57 @@
 namespace fenvale::sql {
 
 enum class Operation : std::uint8_t {
-  column, parameter, null, zero, trueValue, falseValue, maskText,
-  logicalOr, logicalAnd, logicalNot,
-  equal, notEqual, less, greater, lessEqual, greaterEqual, between, isNull, isNotNull,
+  column,
+  parameter,
+  null,
+  zero,
+  trueValue,
+  falseValue,
+  maskText,
+  logicalOr,
+  logicalAnd,
+  logicalNot,
+  equal,
+  notEqual,
+  less,
+  greater,
+  lessEqual,
+  greaterEqual,
+  between,
+  isNull,
+  isNotNull,
   joinStrict,  ///< a NULL makes the whole NULL
   joinLoose,   ///< a NULL counts as an empty text
-  add, subtract, multiply, multiplyCurrencies, divide, negate,
-  choose,      ///< condition, value when true, value when false or NULL
-  count, countRows, sum, minimum, maximum,
+  add,
+  subtract,
+  multiply,
+  multiplyCurrencies,
+  divide,
+  negate,
+  choose,  ///< condition, value when true, value when false or NULL
+  count,
+  countRows,
+  sum,
+  minimum,
+  maximum,
   subselect,
-  middle, formatCurrency, formatDate, formatInteger, formatText, datePart, daysBetween,
-  integerToCurrency, decimalToCurrency, currencyToDecimal, textToNumber, textToCurrency, integerToText, currencyToText,
-  decimalToText, dateToText,
-  assign,      ///< a computed value on its way into a column: checked and converted
+  middle,
+  formatCurrency,
+  formatDate,
+  formatInteger,
+  formatText,
+  datePart,
+  daysBetween,
+  integerToCurrency,
+  decimalToCurrency,
+  currencyToDecimal,
+  textToNumber,
+  textToCurrency,
+  integerToText,
+  currencyToText,
+  decimalToText,
+  dateToText,
+  assign,  ///< a computed value on its way into a column: checked and converted
 };
 
 struct BoundSelect;
@@ -38,10 +76,10 @@ struct BoundExpression {
   Operation operation = Operation::null;
   ValueType type = ValueType::null;
   std::vector<BoundExpression> operands;
-  std::size_t source = 0;     ///< of a column: which source of the statement; of a parameter: which parameter
-  std::size_t column = 0;     ///< its place in the source
-  std::string text;           ///< of a mask or date part; of an assignment: "table.column"
-  ColumnType target;          ///< of an assignment
+  std::size_t source = 0;  ///< of a column: which source of the statement; of a parameter: which parameter
+  std::size_t column = 0;  ///< its place in the source
+  std::string text;        ///< of a mask or date part; of an assignment: "table.column"
+  ColumnType target;       ///< of an assignment
   std::shared_ptr<const BoundSelect> select;
 };
 
@@ -82,9 +120,9 @@ struct Parameter {
   Origin origin = Origin::literal;
   std::size_t literal = 0;
   bool negated = false;
-  ValueType type = ValueType::null;    ///< what the literal becomes; `decimal` takes any number
-  std::optional<ColumnType> column;    ///< the column that it is written to, whose limits it must keep
-  std::string field;                   ///< "table.column" for the refusal
+  ValueType type = ValueType::null;  ///< what the literal becomes; `decimal` takes any number
+  std::optional<ColumnType> column;  ///< the column that it is written to, whose limits it must keep
+  std::string field;                 ///< "table.column" for the refusal
 };
 
 /// How far a translation depends on the value of one of the statement's literals.

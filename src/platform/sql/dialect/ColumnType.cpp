@@ -13,14 +13,22 @@ struct TypeName {
 };
 
 constexpr std::array<TypeName, 17> typeNames = {{
-    {"COUNTER", ColumnKind::counter},     {"AUTOINCREMENT", ColumnKind::counter},
-    {"LONG", ColumnKind::longInteger},    {"INTEGER", ColumnKind::longInteger},
-    {"SHORT", ColumnKind::shortInteger},  {"BYTE", ColumnKind::byte},
-    {"CURRENCY", ColumnKind::currency},   {"MONEY", ColumnKind::currency},
-    {"DATETIME", ColumnKind::date},       {"DATE", ColumnKind::date},
-    {"YESNO", ColumnKind::boolean},       {"BIT", ColumnKind::boolean},
-    {"LOGICAL", ColumnKind::boolean},     {"TEXT", ColumnKind::text},
-    {"VARCHAR", ColumnKind::text},        {"MEMO", ColumnKind::memo},
+    {"COUNTER", ColumnKind::counter},
+    {"AUTOINCREMENT", ColumnKind::counter},
+    {"LONG", ColumnKind::longInteger},
+    {"INTEGER", ColumnKind::longInteger},
+    {"SHORT", ColumnKind::shortInteger},
+    {"BYTE", ColumnKind::byte},
+    {"CURRENCY", ColumnKind::currency},
+    {"MONEY", ColumnKind::currency},
+    {"DATETIME", ColumnKind::date},
+    {"DATE", ColumnKind::date},
+    {"YESNO", ColumnKind::boolean},
+    {"BIT", ColumnKind::boolean},
+    {"LOGICAL", ColumnKind::boolean},
+    {"TEXT", ColumnKind::text},
+    {"VARCHAR", ColumnKind::text},
+    {"MEMO", ColumnKind::memo},
     {"LONGTEXT", ColumnKind::memo},
 }};
 
@@ -49,12 +57,17 @@ ValueType valueTypeOf(ColumnKind kind) {
     case ColumnKind::counter:
     case ColumnKind::longInteger:
     case ColumnKind::shortInteger:
-    case ColumnKind::byte: return ValueType::integer;
-    case ColumnKind::currency: return ValueType::currency;
-    case ColumnKind::date: return ValueType::date;
-    case ColumnKind::boolean: return ValueType::boolean;
+    case ColumnKind::byte:
+      return ValueType::integer;
+    case ColumnKind::currency:
+      return ValueType::currency;
+    case ColumnKind::date:
+      return ValueType::date;
+    case ColumnKind::boolean:
+      return ValueType::boolean;
     case ColumnKind::text:
-    case ColumnKind::memo: return ValueType::text;
+    case ColumnKind::memo:
+      return ValueType::text;
   }
   return ValueType::null;
 }

@@ -21,8 +21,8 @@ struct ColumnType {
 
 inline constexpr std::size_t longestText = 255;
 
-/// By any of its names: COUNTER, AUTOINCREMENT; LONG, INTEGER; SHORT; BYTE; CURRENCY, MONEY; DATETIME, DATE; YESNO, BIT,
-/// LOGICAL; TEXT, VARCHAR; MEMO, LONGTEXT.
+/// By any of its names: COUNTER, AUTOINCREMENT; LONG, INTEGER; SHORT; BYTE; CURRENCY, MONEY; DATETIME, DATE; YESNO,
+/// BIT, LOGICAL; TEXT, VARCHAR; MEMO, LONGTEXT.
 std::optional<ColumnKind> findColumnKind(std::string_view name);
 /// The first of its names.
 std::string_view nameOf(ColumnKind kind);

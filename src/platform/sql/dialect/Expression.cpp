@@ -36,9 +36,14 @@ LiteralExpression::LiteralExpression(const Token& token, std::size_t index)
 
 void LiteralExpression::print(Printer& printer) const {
   switch (kind_) {
-    case TokenKind::Text: printer << quotedText(text_); break;
-    case TokenKind::Date: printer << "#" << text_ << "#"; break;
-    default: printer << text_;
+    case TokenKind::Text:
+      printer << quotedText(text_);
+      break;
+    case TokenKind::Date:
+      printer << "#" << text_ << "#";
+      break;
+    default:
+      printer << text_;
   }
 }
 

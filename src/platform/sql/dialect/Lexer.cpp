@@ -117,23 +117,40 @@ class Lexer {
     if (is(letter, digit) || (letter == '.' && is(next(), digit))) return readNumber();
     switch (letter) {
       case '\'':
-      case '"': return readText(letter);
-      case '[': return readBracketed();
-      case '#': return readDateLiteral();
-      case '<': return readSymbol(next() == '>' ? TokenKind::NotEqual : next() == '=' ? TokenKind::LessEqual : TokenKind::Less);
-      case '>': return readSymbol(next() == '=' ? TokenKind::GreaterEqual : TokenKind::Greater);
-      case '=': return readSymbol(TokenKind::Equal);
-      case '&': return readSymbol(TokenKind::Ampersand);
-      case ',': return readSymbol(TokenKind::Comma);
-      case '-': return readSymbol(TokenKind::Minus);
-      case '(': return readSymbol(TokenKind::ParenOpen);
-      case ')': return readSymbol(TokenKind::ParenClose);
-      case '+': return readSymbol(TokenKind::Plus);
-      case '.': return readSymbol(TokenKind::Point);
-      case ';': return readSymbol(TokenKind::Semicolon);
-      case '/': return readSymbol(TokenKind::Slash);
-      case '*': return readSymbol(TokenKind::Star);
-      default: fail(at_);
+      case '"':
+        return readText(letter);
+      case '[':
+        return readBracketed();
+      case '#':
+        return readDateLiteral();
+      case '<':
+        return readSymbol(next() == '>' ? TokenKind::NotEqual : next() == '=' ? TokenKind::LessEqual : TokenKind::Less);
+      case '>':
+        return readSymbol(next() == '=' ? TokenKind::GreaterEqual : TokenKind::Greater);
+      case '=':
+        return readSymbol(TokenKind::Equal);
+      case '&':
+        return readSymbol(TokenKind::Ampersand);
+      case ',':
+        return readSymbol(TokenKind::Comma);
+      case '-':
+        return readSymbol(TokenKind::Minus);
+      case '(':
+        return readSymbol(TokenKind::ParenOpen);
+      case ')':
+        return readSymbol(TokenKind::ParenClose);
+      case '+':
+        return readSymbol(TokenKind::Plus);
+      case '.':
+        return readSymbol(TokenKind::Point);
+      case ';':
+        return readSymbol(TokenKind::Semicolon);
+      case '/':
+        return readSymbol(TokenKind::Slash);
+      case '*':
+        return readSymbol(TokenKind::Star);
+      default:
+        fail(at_);
     }
   }
 

@@ -20,13 +20,33 @@
 namespace fenvale::sql {
 
 enum class Operator : std::uint8_t {
-  logicalOr, logicalAnd, logicalNot,
-  equal, notEqual, less, greater, lessEqual, greaterEqual,
-  join, add, subtract, multiply, divide, negate,
+  logicalOr,
+  logicalAnd,
+  logicalNot,
+  equal,
+  notEqual,
+  less,
+  greater,
+  lessEqual,
+  greaterEqual,
+  join,
+  add,
+  subtract,
+  multiply,
+  divide,
+  negate,
 };
 
 enum class Precedence : std::uint8_t {
-  logicalOr = 1, logicalAnd, logicalNot, comparison, join, sum, product, sign, operand,
+  logicalOr = 1,
+  logicalAnd,
+  logicalNot,
+  comparison,
+  join,
+  sum,
+  product,
+  sign,
+  operand,
 };
 
 struct BinaryOperator {

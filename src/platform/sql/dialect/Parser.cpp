@@ -32,13 +32,20 @@ Statement Parser::parseStatement() {
     return statement;
   };
   switch (current().kind) {
-    case TokenKind::Select: return whole(parseSelect());
-    case TokenKind::Insert: return whole(parseInsert());
-    case TokenKind::Update: return whole(parseUpdate());
-    case TokenKind::Delete: return whole(parseDelete());
-    case TokenKind::Create: return whole(parseCreate());
-    case TokenKind::Alter: return whole(parseAlterTable());
-    default: fail();
+    case TokenKind::Select:
+      return whole(parseSelect());
+    case TokenKind::Insert:
+      return whole(parseInsert());
+    case TokenKind::Update:
+      return whole(parseUpdate());
+    case TokenKind::Delete:
+      return whole(parseDelete());
+    case TokenKind::Create:
+      return whole(parseCreate());
+    case TokenKind::Alter:
+      return whole(parseAlterTable());
+    default:
+      fail();
   }
 }
 
@@ -202,9 +209,7 @@ void Parser::expect(TokenKind kind) {
   if (!accept(kind)) fail();
 }
 
-bool Parser::atName() const {
-  return at(TokenKind::Name) || categoryOf(current().kind) == TokenCategory::softKeyword;
-}
+bool Parser::atName() const { return at(TokenKind::Name) || categoryOf(current().kind) == TokenCategory::softKeyword; }
 
 std::string Parser::parseName() {
   if (!atName()) fail();
@@ -228,8 +233,7 @@ std::string Parser::sourceText(std::size_t firstToken, std::size_t endToken) con
 void Parser::fail(const Token& token) const { failSyntax(token, statement_); }
 
 ExpressionPointer Parser::checkDepth(ExpressionPointer expression) const {
-  if (expression->depth() > deepestNesting)
-    throw Error(errors::syntax, "A instrução é complexa demais.");
+  if (expression->depth() > deepestNesting) throw Error(errors::syntax, "A instrução é complexa demais.");
   return expression;
 }
 

@@ -95,11 +95,15 @@ ColumnType Parser::parseType() {
 
 bool Parser::atConstraint() const {
   switch (current().kind) {
-    case TokenKind::Unique: return true;
-    case TokenKind::Constraint: return ahead(2).kind != TokenKind::ParenOpen && ahead(2).kind != TokenKind::Comma;
+    case TokenKind::Unique:
+      return true;
+    case TokenKind::Constraint:
+      return ahead(2).kind != TokenKind::ParenOpen && ahead(2).kind != TokenKind::Comma;
     case TokenKind::Primary:
-    case TokenKind::Foreign: return ahead().kind == TokenKind::Key;
-    default: return false;
+    case TokenKind::Foreign:
+      return ahead().kind == TokenKind::Key;
+    default:
+      return false;
   }
 }
 

@@ -22,11 +22,16 @@ class Parser::Nesting {
 
 ExpressionPointer Parser::parseLadder(Precedence rung) {
   switch (rung) {
-    case Precedence::logicalNot: return parseNot();
-    case Precedence::comparison: return parseComparison();
-    case Precedence::sign: return parseSign();
-    case Precedence::operand: return parseOperand();
-    default: break;
+    case Precedence::logicalNot:
+      return parseNot();
+    case Precedence::comparison:
+      return parseComparison();
+    case Precedence::sign:
+      return parseSign();
+    case Precedence::operand:
+      return parseOperand();
+    default:
+      break;
   }
   ExpressionPointer left = parseLadder(tighter(rung));
   for (;;) {
@@ -83,16 +88,16 @@ ExpressionPointer Parser::parseOperand() {
       const Token& token = tokens_[at_++];
       return std::make_unique<ConstantExpression>(token.kind, token.place);
     }
-    case TokenKind::ParenOpen: return parseParentheses();
-    default: break;
+    case TokenKind::ParenOpen:
+      return parseParentheses();
+    default:
+      break;
   }
   if (categoryOf(current().kind) == TokenCategory::literal) return parseLiteral();
   return parseNameOrCall();
 }
 
-ExpressionPointer Parser::parseLiteral() {
-  return std::make_unique<LiteralExpression>(tokens_[at_++], literals_++);
-}
+ExpressionPointer Parser::parseLiteral() { return std::make_unique<LiteralExpression>(tokens_[at_++], literals_++); }
 
 ExpressionPointer Parser::parseNameOrCall() {
   if (!atName()) fail();

@@ -143,8 +143,12 @@ struct StatementPrinter {
     printer << " ";
     if (!constraint.name.empty()) (printer << "CONSTRAINT ").name(constraint.name) << " ";
     switch (constraint.kind) {
-      case ConstraintDefinition::Kind::primaryKey: printer << "PRIMARY KEY"; break;
-      case ConstraintDefinition::Kind::unique: printer << "UNIQUE"; break;
+      case ConstraintDefinition::Kind::primaryKey:
+        printer << "PRIMARY KEY";
+        break;
+      case ConstraintDefinition::Kind::unique:
+        printer << "UNIQUE";
+        break;
       case ConstraintDefinition::Kind::relation:
         (printer << "REFERENCES ").name(constraint.relation.table);
         printNames(printer, constraint.relation.referencedColumns);
@@ -174,9 +178,8 @@ void print(const SelectStatement& select, Printer& printer) {
   }
   if (!select.orderBy.empty()) {
     printer << " ORDER BY ";
-    printList(printer, select.orderBy, [&](const OrderItem& item) {
-      printer.expression(*item.expression) << (item.descending ? " DESC" : "");
-    });
+    printList(printer, select.orderBy,
+              [&](const OrderItem& item) { printer.expression(*item.expression) << (item.descending ? " DESC" : ""); });
   }
 }
 

@@ -130,9 +130,8 @@ struct AddConstraintStatement {
   ConstraintDefinition constraint;
 };
 
-using Statement =
-    std::variant<SelectStatement, InsertStatement, UpdateStatement, DeleteStatement, CreateTableStatement,
-                 CreateIndexStatement, AddColumnStatement, AddConstraintStatement>;
+using Statement = std::variant<SelectStatement, InsertStatement, UpdateStatement, DeleteStatement, CreateTableStatement,
+                               CreateIndexStatement, AddColumnStatement, AddConstraintStatement>;
 
 void print(const SelectStatement& select, Printer& printer);
 std::string print(const Statement& statement, Parentheses parentheses = Parentheses::needed);

@@ -41,7 +41,8 @@ StoredValue supplyNumber(std::string_view text, bool negated, std::string_view f
 
 StoredValue supplyInteger(const Parameter& parameter, ColumnKind kind, std::string_view text) {
   const StoredValue number = supplyNumber(text, parameter.negated, parameter.field);
-  if (const auto* whole = std::get_if<std::int64_t>(&number)) return checkedInteger(*whole, rangeOf(kind), parameter.field);
+  if (const auto* whole = std::get_if<std::int64_t>(&number))
+    return checkedInteger(*whole, rangeOf(kind), parameter.field);
   return checkedInteger(std::get<double>(number), rangeOf(kind), parameter.field);
 }
 
@@ -60,9 +61,12 @@ void failRange(std::string_view field) {
 
 IntegerRange rangeOf(ColumnKind kind) {
   switch (kind) {
-    case ColumnKind::byte: return {0, 255};
-    case ColumnKind::shortInteger: return {-32768, 32767};
-    default: return {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
+    case ColumnKind::byte:
+      return {0, 255};
+    case ColumnKind::shortInteger:
+      return {-32768, 32767};
+    default:
+      return {std::numeric_limits<std::int32_t>::min(), std::numeric_limits<std::int32_t>::max()};
   }
 }
 
@@ -82,7 +86,8 @@ double numberOf(std::string_view text, std::string_view field) {
   text = trimmed(text);
   double number = 0;
   const auto [end, failure] = std::from_chars(text.data(), text.data() + text.size(), number, std::chars_format::fixed);
-  if (failure != std::errc() || end != text.data() + text.size()) failRange(field.empty() ? quotedText(left(text, 40)) : field);
+  if (failure != std::errc() || end != text.data() + text.size())
+    failRange(field.empty() ? quotedText(left(text, 40)) : field);
   return number;
 }
 
@@ -110,8 +115,10 @@ StoredValue supply(const Parameter& parameter, TokenKind kind, std::string_view 
     case ValueType::integer:
       if (parameter.column) return supplyInteger(parameter, parameter.column->kind, literal);
       return supplyNumber(literal, parameter.negated, parameter.field);
-    case ValueType::decimal: return supplyNumber(literal, parameter.negated, parameter.field);
-    case ValueType::boolean: return supplyBoolean(parameter, literal);
+    case ValueType::decimal:
+      return supplyNumber(literal, parameter.negated, parameter.field);
+    case ValueType::boolean:
+      return supplyBoolean(parameter, literal);
     case ValueType::date:
       if (const auto date = readLiteralDate(literal)) return writeStoredDate(*date);
       failTypes(parameter.field);
@@ -126,7 +133,8 @@ StoredValue supply(const Parameter& parameter, TokenKind kind, std::string_view 
         checkText(text, parameter.column->limit, parameter.field);
       return text;
     }
-    case ValueType::null: break;
+    case ValueType::null:
+      break;
   }
   return {};
 }

@@ -91,7 +91,8 @@ enum class TokenKind : std::uint8_t {
 constexpr TokenCategory categoryOf(TokenKind kind) {
   switch (kind) {
 #define TOKEN(kind, category, spelling) \
-  case TokenKind::kind: return TokenCategory::category;
+  case TokenKind::kind:                 \
+    return TokenCategory::category;
     FENVALE_SQL_TOKENS(TOKEN)
 #undef TOKEN
   }
@@ -101,7 +102,8 @@ constexpr TokenCategory categoryOf(TokenKind kind) {
 constexpr std::string_view spellingOf(TokenKind kind) {
   switch (kind) {
 #define TOKEN(kind, category, spelling) \
-  case TokenKind::kind: return spelling;
+  case TokenKind::kind:                 \
+    return spelling;
     FENVALE_SQL_TOKENS(TOKEN)
 #undef TOKEN
   }

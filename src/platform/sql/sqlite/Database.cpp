@@ -2,17 +2,20 @@
 
 #include <fcntl.h>
 #include <sqlite3.h>
+#include <sys/stat.h>
 #include <unistd.h>
 
 #include <algorithm>
 #include <cerrno>
 #include <thread>
+#include <utility>
 
 #include "platform/base/Error.h"
 #include "platform/os/Files.h"
 #include "platform/sql/dialect/Literals.h"
 #include "platform/sql/sqlite/Failures.h"
 #include "platform/sql/sqlite/Functions.h"
+#include "platform/sql/sqlite/StorePath.h"
 
 namespace fenvale::sql {
 namespace {
@@ -38,12 +41,12 @@ void synchronizeFolderOf(const std::string& path) {
 
 void Prepared::Finalize::operator()(sqlite3_stmt* statement) const { sqlite3_finalize(statement); }
 
-Prepared::Prepared(sqlite3* database, const std::string& text) : database_(database) {
+Prepared::Prepared(const Database& database, const std::string& text) : database_(&database) {
   sqlite3_stmt* statement = nullptr;
-  const int code = sqlite3_prepare_v3(database, text.data(), static_cast<int>(text.size()), SQLITE_PREPARE_PERSISTENT,
-                                      &statement, nullptr);
+  const int code = sqlite3_prepare_v3(database.handle_, text.data(), static_cast<int>(text.size()),
+                                      SQLITE_PREPARE_PERSISTENT, &statement, nullptr);
   statement_.reset(statement);
-  if (code != SQLITE_OK) fail(database, code);
+  if (code != SQLITE_OK) database.fail(code);
 }
 
 void Prepared::bind(const std::vector<StoredValue>& values) {
@@ -70,10 +73,8 @@ bool Prepared::step() {
     reset();
     return false;
   }
-  // A function of ours keeps the Error it refused a value with.
   const int reported = sqlite3_reset(statement_.get());
-  rethrowFunctionError();
-  fail(database_, reported == SQLITE_OK ? code : reported);
+  database_->fail(reported == SQLITE_OK ? code : reported);
 }
 
 void Prepared::reset() { sqlite3_reset(statement_.get()); }
@@ -89,6 +90,10 @@ std::int64_t Prepared::integer(std::size_t column) const {
 Value Prepared::value(std::size_t column, ValueType type) const {
   if (isNull(column)) return {};
   const int place = static_cast<int>(column);
+  // Arithmetic that leaves 64 bits comes out as floating point.
+  const bool whole = type == ValueType::integer || type == ValueType::currency;
+  if (whole && sqlite3_column_type(statement_.get(), place) == SQLITE_FLOAT)
+    throw Error(errors::overflow, "Estouro de capacidade.");
   const auto text = [&] {
     return std::string(reinterpret_cast<const char*>(sqlite3_column_text(statement_.get(), place)),
                        static_cast<std::size_t>(sqlite3_column_bytes(statement_.get(), place)));
@@ -104,31 +109,29 @@ Value Prepared::value(std::size_t column, ValueType type) const {
       return Value::boolean(integer(column) != 0);
     case ValueType::date:
       if (const auto moment = readStoredDate(text())) return Value::date(*moment);
-      return {};
+      throw Error(errors::storeDamaged, "O banco de dados tem uma data ilegível: " + text() + ".");
     default:
       return Value::text(text());
   }
 }
 
 Database::Database(const std::string& path, LockWait* lockWait) : lockWait_(lockWait) {
-  if (!files::isFile(path)) throw Error(errors::storeNotFound, "O banco de dados " + path + " não foi localizado.");
+  checkFile(path);
+  context_.path = path;
   // The program has one thread: no lock around every call.
   constexpr int mode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
   const int code = sqlite3_open_v2(path.c_str(), &handle_, mode, nullptr);
   try {
-    if (code != SQLITE_OK) fail(handle_, code);
+    if (code != SQLITE_OK) fail(code);
     sqlite3_extended_result_codes(handle_, 1);
     sqlite3_busy_handler(handle_, &waitForLock, this);
     sqlite3_db_config(handle_, SQLITE_DBCONFIG_DQS_DML, 0, nullptr);
-    registerFunctions(handle_);
-    Prepared id = prepare("PRAGMA application_id");
-    if (!id.step() || id.integer(0) != applicationId)
-      throw Error(errors::fileNotStore, "O arquivo " + path + " não é um banco de dados do programa.");
-    id.reset();
-    run("PRAGMA foreign_keys = ON");
-    run("PRAGMA synchronous = FULL");
-    run("PRAGMA temp_store = MEMORY");
-    run("PRAGMA cache_size = -16384");
+    registerFunctions(handle_, functionFailure_);
+    if (number("PRAGMA application_id") != applicationId)
+      throw Error(errors::fileNotStore, "O arquivo " + path + " não é um banco de dados do sistema.");
+    if (sqlite3_db_readonly(handle_, "main") == 1) fail(SQLITE_READONLY);
+    run("PRAGMA foreign_keys = ON; PRAGMA synchronous = FULL; PRAGMA journal_mode = DELETE");
+    run("PRAGMA temp_store = MEMORY; PRAGMA cache_size = -16384");
   } catch (const Error&) {
     sqlite3_close_v2(handle_);
     throw;
@@ -140,10 +143,27 @@ Database::~Database() { sqlite3_close_v2(handle_); }
 
 void Database::run(const std::string& text) {
   const int code = sqlite3_exec(handle_, text.c_str(), nullptr, nullptr, nullptr);
-  if (code != SQLITE_OK) {
-    rethrowFunctionError();
-    fail(handle_, code);
-  }
+  if (code != SQLITE_OK) fail(code);
+}
+
+void Database::runQuietly(const char* text) { sqlite3_exec(handle_, text, nullptr, nullptr, nullptr); }
+
+std::int64_t Database::number(const std::string& query) const {
+  Prepared prepared = prepare(query);
+  return prepared.step() ? prepared.integer(0) : 0;
+}
+
+void Database::speakOf(std::string table, bool deletes) {
+  context_.table = std::move(table);
+  context_.deletes = deletes;
+}
+
+void Database::fail(int code) const {
+  if (waitFailure_) std::rethrow_exception(std::exchange(waitFailure_, nullptr));
+  if (functionFailure_) throw *std::exchange(functionFailure_, std::nullopt);
+  // A code of our own making is not the one that the handle remembers.
+  if (handle_ == nullptr || (sqlite3_errcode(handle_) & 0xFF) != (code & 0xFF)) throw failureOf(code, "", context_);
+  throw failureOf(handle_, code, context_);
 }
 
 std::vector<std::string> Database::texts(const std::string& query) const {
@@ -157,12 +177,7 @@ std::int64_t Database::changedRows() const { return sqlite3_changes64(handle_); 
 
 bool Database::inTransaction() const { return sqlite3_get_autocommit(handle_) == 0; }
 
-std::int64_t Database::schemaVersion() const {
-  Prepared version = prepare("PRAGMA schema_version");
-  const std::int64_t number = version.step() ? version.integer(0) : 0;
-  version.reset();
-  return number;
-}
+std::int64_t Database::schemaVersion() const { return number("PRAGMA schema_version"); }
 
 Database::State Database::state() {
   if (!dataVersion_) dataVersion_ = prepare("PRAGMA data_version");
@@ -190,7 +205,12 @@ int Database::waitForLock(void* self, int attempt) {
   database.waited_ += length;
   if (database.waited_ - database.told_ < milliseconds(100)) return 1;
   database.told_ = database.waited_;
-  return database.lockWait_->keepWaiting(database.waited_) ? 1 : 0;
+  try {
+    return database.lockWait_->keepWaiting(database.waited_) ? 1 : 0;
+  } catch (...) {
+    database.waitFailure_ = std::current_exception();  // thrown on once SQLite has let go
+    return 0;
+  }
 }
 
 void createFile(const std::string& path) {
@@ -206,6 +226,7 @@ void createFile(const std::string& path) {
     code = sqlite3_exec(handle, text.c_str(), nullptr, nullptr, nullptr);
   }
   sqlite3_close_v2(handle);
+  ::chmod(draft.c_str(), 0660);  // a store holds passwords: for owner and group only
   // A link, not a rename: should another program have made the file meanwhile, it stays.
   const bool made = code == SQLITE_OK && ::link(draft.c_str(), native.c_str()) == 0;
   const int reason = errno;

@@ -1,22 +1,27 @@
 #pragma once
 // One open SQLite file, and statements prepared on it.
 
+#include <exception>
 #include <memory>
+#include <optional>
 #include <string>
 #include <vector>
 
 #include "platform/sql/Store.h"
 #include "platform/sql/dialect/StoredValue.h"
+#include "platform/sql/sqlite/Failures.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
 
 namespace fenvale::sql {
 
+class Database;
+
 class Prepared {
  public:
   Prepared() = default;
-  Prepared(sqlite3* database, const std::string& text);
+  Prepared(const Database& database, const std::string& text);
 
   explicit operator bool() const { return statement_ != nullptr; }
   void bind(const std::vector<StoredValue>& values);
@@ -32,7 +37,7 @@ class Prepared {
   struct Finalize {
     void operator()(sqlite3_stmt* statement) const;
   };
-  sqlite3* database_ = nullptr;
+  const Database* database_ = nullptr;
   std::unique_ptr<sqlite3_stmt, Finalize> statement_;
 };
 
@@ -57,7 +62,13 @@ class Database {
   Database& operator=(const Database&) = delete;
 
   void run(const std::string& text);
-  Prepared prepare(const std::string& text) const { return Prepared(handle_, text); }
+  /// Of which a failure would change nothing for the better.
+  void runQuietly(const char* text);
+  /// The one number of a query.
+  std::int64_t number(const std::string& query) const;
+  /// What the next statements are about, for the sentence of a failure.
+  void speakOf(std::string table, bool deletes);
+  Prepared prepare(const std::string& text) const { return Prepared(*this, text); }
   /// The rows of a text column.
   std::vector<std::string> texts(const std::string& query) const;
   std::int64_t changedRows() const;
@@ -87,9 +98,15 @@ class Database {
   };
 
  private:
+  friend class Prepared;
   static int waitForLock(void* self, int attempt);
+  /// Throws what the last call failed with: an Error of our own functions or of the lock's wait, else SQLite's.
+  [[noreturn]] void fail(int code) const;
 
   sqlite3* handle_ = nullptr;
+  FailureContext context_;
+  mutable std::optional<Error> functionFailure_;
+  mutable std::exception_ptr waitFailure_;
   LockWait* lockWait_;
   Prepared dataVersion_, anyRow_;
   std::chrono::milliseconds waited_{0};

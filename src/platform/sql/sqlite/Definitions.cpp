@@ -1,8 +1,6 @@
 #include "platform/sql/sqlite/Definitions.h"
 
-#include "platform/base/Error.h"
 #include "platform/sql/dialect/Binder.h"
-#include "platform/sql/dialect/Lexer.h"
 #include "platform/sql/dialect/Parser.h"
 #include "platform/sql/dialect/StoredValue.h"
 #include "platform/sql/sqlite/Database.h"
@@ -11,141 +9,191 @@
 namespace fenvale::sql {
 namespace {
 
-using TablePointer = std::shared_ptr<const TableDescription>;
+std::string columnText(const ColumnDefinition& column) {
+  std::string text = sqliteName(column.name);
+  switch (column.type.kind) {
+    case ColumnKind::counter:
+      return text + " INTEGER PRIMARY KEY AUTOINCREMENT";
+    case ColumnKind::boolean:
+      return text + " INT NOT NULL DEFAULT 0";
+    case ColumnKind::date:
+      text += " TEXT";
+      break;
+    case ColumnKind::text:
+    case ColumnKind::memo:
+      (text += " TEXT COLLATE ") += collationName;
+      break;
+    // Not "INTEGER": SQLite would take a key of that type for its own row number and fill in what is missing.
+    default:
+      text += " INT";
+  }
+  return column.required ? text + " NOT NULL" : text;
+}
 
 std::string nameList(const std::vector<std::string>& names) {
   std::string list;
   for (const std::string& name : names) list += (list.empty() ? "" : ", ") + sqliteName(name);
-  return list;
-}
-
-std::string indexName(const TableDescription& table, std::string_view index) {
-  return sqliteName(table.name + "." + std::string(index));
-}
-
-std::string columnText(const ColumnDefinition& column) {
-  const std::string required = column.required ? " NOT NULL" : "";
-  switch (column.type.kind) {
-    case ColumnKind::counter:
-      return "INTEGER PRIMARY KEY AUTOINCREMENT";
-    case ColumnKind::boolean:
-      return "INTEGER NOT NULL DEFAULT 0";
-    case ColumnKind::date:
-      return "TEXT" + required;
-    case ColumnKind::text:
-    case ColumnKind::memo:
-      return "TEXT COLLATE " + std::string(collationName) + required;
-    default:
-      return "INTEGER" + required;
-  }
+  return "(" + list + ")";
 }
 
 std::string relationText(const RelationDescription& relation) {
-  return " REFERENCES " + sqliteName(relation.referencedTable) + " (" + nameList(relation.referencedColumns) + ")" +
+  return "CONSTRAINT " + sqliteName(relation.name) + " FOREIGN KEY " + nameList(relation.columns) + " REFERENCES " +
+         sqliteName(relation.referencedTable) + " " + nameList(relation.referencedColumns) +
          (relation.cascade ? " ON DELETE CASCADE" : "");
 }
 
-/// SQLite allows no parameters in an index or a trigger: the literals of the condition stand in its text.
-std::string inlineLiteral(const Parameter& parameter, std::string_view source) {
-  std::vector<Token> tokens;
-  readTokens(source, tokens);
-  std::size_t literal = 0;
-  for (const Token& token : tokens) {
-    if (categoryOf(token.kind) != TokenCategory::literal || literal++ != parameter.literal) continue;
-    std::string buffer;
-    const StoredValue value = supply(parameter, token.kind, textOf(token, buffer));
-    if (const auto* whole = std::get_if<std::int64_t>(&value)) return std::to_string(*whole);
-    if (const auto* text = std::get_if<std::string>(&value)) return sqliteText(*text);
-  }
-  throw Error(errors::notSupported, "Esta condição não pode fazer parte de uma definição.");
+std::string tableText(const TableDescription& table) {
+  std::string text = "CREATE TABLE " + sqliteName(table.name) + " (";
+  for (std::size_t index = 0; index < table.columns.size(); ++index)
+    text += (index > 0 ? ", " : "") + columnText(table.columns[index]);
+  for (const RelationDescription& relation : table.relations) text += ", " + relationText(relation);
+  return text + ")";
 }
 
-/// `source` is the text whose literals the condition's parameters count.
-std::string conditionText(const Expression& condition, const TablePointer& table, std::string_view source) {
-  const BoundStatement bound = bindCondition(condition, table);
+/// A condition as SQLite text. In a definition nothing is bound: every literal is written out.
+std::string conditionText(const std::string& condition, const std::shared_ptr<const TableDescription>& table) {
+  const ExpressionPointer tree = parseCondition(condition);
+  const BoundStatement bound = bindCondition(*tree, table);
   const auto& holder = std::get<BoundDelete>(bound.content);
-  SqliteEmitter emitter([&](std::size_t index) { return inlineLiteral(bound.parameters[index], source); });
+  SqliteEmitter emitter([&](std::size_t place) -> std::string {
+    const Parameter& parameter = bound.parameters[place];
+    if (parameter.origin != Parameter::Origin::literal)
+      throw Error(errors::syntax, "Uma definição não pode depender do dia.");
+    const TokenKind kind = parameter.type == ValueType::date ? TokenKind::Date : TokenKind::Text;
+    const StoredValue value = supply(parameter, kind, bound.literals[parameter.literal].text);
+    if (const auto* whole = std::get_if<std::int64_t>(&value)) return std::to_string(*whole);
+    if (const auto* text = std::get_if<std::string>(&value)) return sqliteText(*text);
+    return Value::decimal(std::get<double>(value)).toText();
+  });
   return emitter.emitCondition(holder.conditions, holder.target, "");
+}
+
+/// The index by its table's name and its own: SQLite's indexes share one room of names.
+std::string indexName(const TableDescription& table, const std::string& name) {
+  return sqliteName(table.name + "." + name);
+}
+
+std::string indexText(const TableDescription& table, const IndexDescription& index) {
+  std::string list;
+  for (const auto& column : index.columns)
+    list += (list.empty() ? "" : ", ") + sqliteName(column.name) + (column.descending ? " DESC" : "");
+  return (index.unique ? "CREATE UNIQUE INDEX " : "CREATE INDEX ") + indexName(table, index.name) + " ON " +
+         sqliteName(table.name) + " (" + list + ")";
 }
 
 class Definer {
  public:
-  Definer(Database& database, const Catalog& catalog, std::string_view text)
-      : database_(database), catalog_(catalog), text_(text) {}
+  Definer(Database& database, const Catalog& before, const Catalog& after)
+      : database_(database), before_(before), after_(after) {}
 
   void operator()(const CreateTableStatement& create) {
-    const TablePointer table = catalog_.get(create.table);
-    std::string text;
-    for (const ColumnDefinition& column : table->columns)
-      text += (text.empty() ? "" : ", ") + sqliteName(column.name) + " " + columnText(column);
-    for (const RelationDescription& relation : table->relations)
-      text += ", FOREIGN KEY (" + nameList(relation.columns) + ")" + relationText(relation);
-    database_.run("CREATE TABLE " + sqliteName(table->name) + " (" + text + ")");
-    for (const IndexDescription& index : table->indexes) createUnique(*table, index);
-    for (const RelationDescription& relation : table->relations) createRefusal(table, relation);
+    const auto table = after_.get(create.table);
+    execute(*table, tableText(*table));
+    makeIndexes(*table, 0);
+    makeRules(table, 0);
   }
 
   void operator()(const CreateIndexStatement& create) {
-    const TablePointer table = catalog_.get(create.table);
-    std::string columns;
-    for (const auto& column : create.columns)
-      columns += (columns.empty() ? "" : ", ") + sqliteName(column.name) + (column.descending ? " DESC" : "");
-    database_.run("CREATE " + std::string(create.unique ? "UNIQUE " : "") + "INDEX " + indexName(*table, create.name) +
-                  " ON " + sqliteName(table->name) + " (" + columns + ")" +
-                  (create.where ? " WHERE " + conditionText(*create.where, table, text_) : ""));
+    const auto table = after_.get(create.table);
+    std::string condition;
+    if (create.where) {
+      Printer printer;
+      printer.expression(*create.where);
+      condition = " WHERE " + conditionText(printer.text(), table);
+    }
+    execute(*table, indexText(*table, table->indexes.back()) + condition);
   }
 
   void operator()(const AddColumnStatement& alter) {
-    const TablePointer table = catalog_.get(alter.table);
-    std::string text = columnText(alter.column);
-    const auto& relations = table->relations;
-    for (const RelationDescription& relation : relations)
-      if (sameName(relation.columns.front(), alter.column.name)) text += relationText(relation);
-    database_.run("ALTER TABLE " + sqliteName(table->name) + " ADD COLUMN " + sqliteName(alter.column.name) + " " +
-                  text);
-    for (const IndexDescription& index : table->indexes)
-      if (index.columns.size() == 1 && sameName(index.columns[0].name, alter.column.name)) createUnique(*table, index);
-    for (const RelationDescription& relation : relations)
-      if (sameName(relation.columns.front(), alter.column.name)) createRefusal(table, relation);
+    const auto table = after_.get(alter.table);
+    const auto former = before_.get(alter.table);
+    const ColumnDefinition& column = table->columns.back();
+    refuseIf(column.required, *table, "SELECT EXISTS (SELECT 1 FROM " + sqliteName(table->name) + ")",
+             "O campo " + column.name + " de " + table->name + " não pode ficar vazio nos registros existentes.");
+    execute(*table, "ALTER TABLE " + sqliteName(table->name) + " ADD COLUMN " + columnText(column));
+    if (table->relations.size() > former->relations.size()) rewrite(*table);
+    makeIndexes(*table, former->indexes.size());
+    makeRules(table, former->relations.size());
   }
 
   void operator()(const AddConstraintStatement& alter) {
-    const TablePointer table = catalog_.get(alter.table);
-    // SQLite takes no relation up later; a table is told its relations when it is made.
-    if (alter.constraint.kind == ConstraintDefinition::Kind::relation)
-      throw Error(errors::notSupported,
-                  "Uma relação da tabela " + table->name + " só pode nascer com a tabela ou o campo.");
-    createUnique(*table, table->indexes.back());
+    const auto table = after_.get(alter.table);
+    const auto former = before_.get(alter.table);
+    if (alter.constraint.kind == ConstraintDefinition::Kind::relation) {
+      const RelationDescription& relation = table->relations.back();
+      const std::string reference = sqliteName(relation.columns[0]);
+      refuseIf(true, *table,
+               "SELECT EXISTS (SELECT 1 FROM " + sqliteName(table->name) + " AS t WHERE t." + reference +
+                   " IS NOT NULL AND NOT EXISTS (SELECT 1 FROM " + sqliteName(relation.referencedTable) +
+                   " AS r WHERE r." + sqliteName(relation.referencedColumns[0]) + " = t." + reference + "))",
+               "A tabela " + table->name + " tem registros que apontam para registros que não existem.");
+    } else if (alter.constraint.kind == ConstraintDefinition::Kind::primaryKey) {
+      for (const std::string& column : alter.constraint.columns)
+        refuseIf(
+            true, *table,
+            "SELECT EXISTS (SELECT 1 FROM " + sqliteName(table->name) + " WHERE " + sqliteName(column) + " IS NULL)",
+            "O campo " + column + " de " + table->name + " está vazio em algum registro.");
+    }
+    rewrite(*table);
+    makeIndexes(*table, former->indexes.size());
+    makeRules(table, former->relations.size());
   }
 
-  template <typename NoDefinition>
-  void operator()(const NoDefinition&) {}
+  template <typename Other>
+  void operator()(const Other&) {}
 
  private:
-  void createUnique(const TableDescription& table, const IndexDescription& index) {
-    const std::size_t counter = table.counter();
-    if (index.primary && counter != TableDescription::none &&
-        sameName(index.columns[0].name, table.columns[counter].name))
-      return;  // the counter is the key itself
-    std::vector<std::string> names;
-    for (const auto& column : index.columns) names.push_back(column.name);
-    database_.run("CREATE UNIQUE INDEX " + indexName(table, index.name) + " ON " + sqliteName(table.name) + " (" +
-                  nameList(names) + ")");
+  void execute(const TableDescription& table, const std::string& text) {
+    database_.speakOf(table.name, false);
+    database_.run(text);
   }
 
-  /// A referenced row takes its rows with it, but not while one of them fulfils the relation's condition.
-  void createRefusal(const TablePointer& table, const RelationDescription& relation) {
-    if (relation.unless.empty()) return;
-    database_.run("CREATE TRIGGER " + indexName(*table, relation.name) + " BEFORE DELETE ON " +
-                  sqliteName(relation.referencedTable) + " WHEN EXISTS (SELECT 1 FROM " + sqliteName(table->name) +
-                  " WHERE " + sqliteName(relation.columns[0]) + " = OLD." + sqliteName(relation.referencedColumns[0]) +
-                  " AND " + conditionText(*parseCondition(relation.unless), table, relation.unless) +
-                  ") BEGIN SELECT RAISE(ABORT, " + sqliteText(relation.refusal) + "); END");
+  void refuseIf(bool asked, const TableDescription&, const std::string& query, const std::string& refusal) {
+    if (asked && database_.number(query) != 0) throw Error(errors::refused, refusal);
+  }
+
+  void makeIndexes(const TableDescription& table, std::size_t first) {
+    for (std::size_t place = first; place < table.indexes.size(); ++place) {
+      const IndexDescription& index = table.indexes[place];
+      const std::size_t counter = table.counter();
+      const bool own = index.primary && index.columns.size() == 1 && counter != TableDescription::none &&
+                       sameName(index.columns[0].name, table.columns[counter].name);
+      if (!own) execute(table, indexText(table, index));
+    }
+  }
+
+  /// What a relation refuses although it would take the rows along.
+  void makeRules(const std::shared_ptr<const TableDescription>& table, std::size_t first) {
+    for (std::size_t place = first; place < table->relations.size(); ++place) {
+      const RelationDescription& relation = table->relations[place];
+      if (relation.unless.empty()) continue;
+      execute(*table, "CREATE TRIGGER " + indexName(*table, relation.name) + " BEFORE DELETE ON " +
+                          sqliteName(relation.referencedTable) + " WHEN EXISTS (SELECT 1 FROM " +
+                          sqliteName(table->name) + " WHERE " + sqliteName(relation.columns[0]) + " = OLD." +
+                          sqliteName(relation.referencedColumns[0]) + " AND " + conditionText(relation.unless, table) +
+                          ") BEGIN SELECT RAISE(ABORT, " + sqliteText(relation.refusal) + "); END");
+    }
+  }
+
+  /// A constraint added to a table changes its description and no row: SQLite has no statement for that, but lets the
+  /// description be written anew.
+  void rewrite(const TableDescription& table) {
+    const std::int64_t version = database_.number("PRAGMA schema_version");
+    execute(table, "PRAGMA writable_schema = ON");
+    try {
+      execute(table, "UPDATE sqlite_schema SET sql = " + sqliteText(tableText(table)) +
+                         " WHERE type = 'table' AND name = " + sqliteText(table.name));
+      execute(table, "PRAGMA schema_version = " + std::to_string(version + 1));
+    } catch (const Error&) {
+      database_.runQuietly("PRAGMA writable_schema = OFF");
+      throw;
+    }
+    execute(table, "PRAGMA writable_schema = RESET");
   }
 
   Database& database_;
-  const Catalog& catalog_;
-  std::string_view text_;
+  const Catalog& before_;
+  const Catalog& after_;
 };
 
 }  // namespace
@@ -157,17 +205,19 @@ Catalog readCatalog(const Database& database) {
   return catalog;
 }
 
-void define(Database& database, Catalog& catalog, const Statement& definition, std::string_view text) {
+void define(Database& database, Catalog& catalog, const Statement& definition) {
   Catalog changed = catalog;
   changed.apply(definition);
-  database.run("SAVEPOINT definicao");
+  // The store's own lock before the first step, so that what was found is what is changed.
+  const bool whole = !database.inTransaction();
+  database.run(whole ? "BEGIN IMMEDIATE" : "SAVEPOINT definicao");
   try {
-    std::visit(Definer(database, changed, text), definition);
-    database.run("INSERT INTO " + std::string(catalogTable) + " (texto) VALUES (" + sqliteText(text) + ")");
-    database.run("RELEASE definicao");
+    std::visit(Definer(database, catalog, changed), definition);
+    database.run("INSERT INTO " + std::string(catalogTable) + " (texto) VALUES (" + sqliteText(print(definition)) +
+                 ")");
+    database.run(whole ? "COMMIT" : "RELEASE definicao");
   } catch (const Error&) {
-    database.run("ROLLBACK TO definicao");
-    database.run("RELEASE definicao");
+    database.runQuietly(whole ? "ROLLBACK" : "ROLLBACK TO definicao; RELEASE definicao");
     throw;
   }
   catalog = std::move(changed);

@@ -1,8 +1,6 @@
 #pragma once
 // Definitions of tables, indexes and relations, carried out on SQLite and kept in the catalogue.
 
-#include <string>
-
 #include "platform/sql/dialect/Catalog.h"
 
 namespace fenvale::sql {
@@ -12,7 +10,7 @@ class Database;
 /// The catalogue as the store's own table tells it.
 Catalog readCatalog(const Database& database);
 
-/// Carries out one definition, given with its text, and adds it to `catalog`; all or nothing.
-void define(Database& database, Catalog& catalog, const Statement& definition, std::string_view text);
+/// Carries out one definition and adds it to `catalog`; all or nothing, inside an open transaction or one of its own.
+void define(Database& database, Catalog& catalog, const Statement& definition);
 
 }  // namespace fenvale::sql

@@ -1,11 +1,24 @@
 #pragma once
-// SQLite's result codes as the failures that the rules know.
+// SQLite's result codes as the program's numbers, each with one Portuguese sentence that names the table or the file.
+
+#include <string>
+
+#include "platform/base/Error.h"
 
 struct sqlite3;
 
 namespace fenvale::sql {
 
-/// Throws the Error for the result `code` of the database's last call.
-[[noreturn]] void fail(sqlite3* database, int code);
+/// What a statement was about to do, for the sentence.
+struct FailureContext {
+  std::string path;   ///< of the store
+  std::string table;  ///< that the statement writes; empty for a query
+  bool deletes = false;
+};
+
+/// The failure that the last call on the database ended with.
+Error failureOf(sqlite3* database, int code, const FailureContext& context);
+/// Without a database, from a code and its message.
+Error failureOf(int extendedCode, const std::string& message, const FailureContext& context);
 
 }  // namespace fenvale::sql

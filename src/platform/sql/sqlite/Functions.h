@@ -1,12 +1,16 @@
 #pragma once
-// The functions and the collation that the emitter names, registered on a database.
+// What the dialect's functions and its order of texts are inside SQLite.
+
+#include <optional>
+
+#include "platform/base/Error.h"
 
 struct sqlite3;
 
 namespace fenvale::sql {
 
-void registerFunctions(sqlite3* database);
-/// Throws what a function refused a value with during the last step, if it did.
-void rethrowFunctionError();
+/// Adds the collation and the functions that the emitter names. A function that fails leaves its Error in `failure`,
+/// which must live as long as the database.
+void registerFunctions(sqlite3* database, std::optional<Error>& failure);
 
 }  // namespace fenvale::sql

@@ -66,9 +66,10 @@ class KeyedRows final : public Rows {
 
   void settle() override {
     keepOnlyLookedAt();
-    if (first_ == 0 && ended_) return;
-    find(0, std::numeric_limits<std::int64_t>::max());
+    if (settled_) return;
+    if (first_ != 0 || !ended_) find(0, std::numeric_limits<std::int64_t>::max());
     counted_ = windowEnd();
+    settled_ = true;
   }
 
  private:
@@ -145,6 +146,12 @@ class KeyedRows final : public Rows {
     const std::int64_t end = std::min(place + blockLength_, windowEnd());
     for (std::int64_t next = place; next < end && readRow(prepared, keyAt(next)); ++next) {
     }
+    if (block_.empty() && !settled_) {
+      // Another program took the row away after its key was found: the keys from here on are looked for anew.
+      keys_.resize(static_cast<std::size_t>(place - first_));
+      append(shortest);
+      if (inWindow(place)) readRow(prepared, keyAt(place));
+    }
     if (block_.empty()) throw Error(errors::noCurrentRecord, "O registro foi excluído.");
   }
 
@@ -164,6 +171,7 @@ class KeyedRows final : public Rows {
   std::int64_t first_ = 0;
   bool ended_ = false;  ///< no row follows the window
   std::int64_t counted_ = -1;
+  bool settled_ = false;  ///< the window holds all keys, and they are final
   std::vector<std::vector<Value>> block_;  ///< the cells of the rows blockFirst_ and on
   std::int64_t blockFirst_ = 0;
   std::int64_t blockLength_ = 1;

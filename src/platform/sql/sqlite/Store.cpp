@@ -93,7 +93,8 @@ class Connection::Implementation {
         break;
       case Translation::Kind::definition:
         settle({});
-        define(*database, catalog, parse(statement), statement);
+        if (database->schemaVersion() != schemaVersion) refreshCatalog();
+        define(*database, catalog, parse(statement));
         schemaVersion = database->schemaVersion();
         translations.clear();
         break;
@@ -102,6 +103,7 @@ class Connection::Implementation {
 
   std::int64_t write(const BoundRun& bound) {
     settle(bound.translation->tables);
+    database->speakOf(bound.translation->tables.front(), bound.translation->deletes);
     Prepared& prepared = bound.translation->whole;
     if (!prepared) prepared = database->prepare(bound.translation->wholeText);
     const Running running(prepared);
@@ -226,7 +228,8 @@ Recordset& Recordset::operator=(Recordset&& other) noexcept {
 void Recordset::open(std::string_view statement, Connection& connection, CursorType cursor, LockType lock) {
   if (isOpen()) throw Error(errors::objectOpen, "O conjunto de registros já está aberto.");
   connection.implementation().requireOpen();
-  implementation_->cursor = cursor;
+  // The engine has no dynamic cursor and gives a keyset in its place.
+  implementation_->cursor = cursor == CursorType::dynamic ? CursorType::keyset : cursor;
   implementation_->lock = lock;
   implementation_->place = 0;
   implementation_->affected = 0;

@@ -15,8 +15,8 @@ namespace {
 // More shapes than the program has; a clerk's free statements must not fill the memory.
 constexpr std::size_t mostShapes = 1000;
 
-bool isZero(std::string_view literal) {
-  return literal.find_first_not_of("0. ") == std::string_view::npos && literal.find('0') != std::string_view::npos;
+bool isZero(TokenKind kind, std::string_view literal) {
+  return kind == TokenKind::Integer && literal.find_first_not_of('0') == std::string_view::npos;
 }
 
 /// A row that goes takes those with it that are tied to it by a cascade.
@@ -65,7 +65,8 @@ std::shared_ptr<Translation> translated(const Statement& statement, const Catalo
   }
   translation->kind = Translation::Kind::write;
   translation->wholeText = std::visit([](const auto& content) { return SqliteEmitter().emit(content); }, bound.content);
-  if (std::holds_alternative<BoundDelete>(bound.content)) addCascades(catalog, translation->tables);
+  translation->deletes = std::holds_alternative<BoundDelete>(bound.content);
+  if (translation->deletes) addCascades(catalog, translation->tables);
   return translation;
 }
 
@@ -74,7 +75,9 @@ std::shared_ptr<Translation> translated(const Statement& statement, const Catalo
 bool TranslationCache::serves(const Translation& translation, const std::vector<Literal>& literals) {
   for (std::size_t index = 0; index < translation.literals.size() && index < literals.size(); ++index) {
     const LiteralUse& use = translation.literals[index];
-    if (use.dependence == LiteralUse::Dependence::whetherZero && use.zero != isZero(literals[index].text)) return false;
+    if (use.dependence == LiteralUse::Dependence::whetherZero &&
+        use.zero != isZero(literals[index].kind, literals[index].text))
+      return false;
     if (use.dependence == LiteralUse::Dependence::value && use.text != literals[index].text) return false;
   }
   return true;

@@ -29,6 +29,7 @@ struct Translation {
   std::vector<LiteralUse> literals;
   /// The tables whose change matters: read by a select, touched by a write (cascades included).
   std::vector<std::string> tables;
+  bool deletes = false;  ///< of a write: its table is the first of `tables`
 
   std::string wholeText;  ///< all rows of a select, or the write
   Prepared whole;

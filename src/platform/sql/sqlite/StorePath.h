@@ -1,0 +1,12 @@
+#pragma once
+// Whether a file may be opened as a store, found out before SQLite touches it.
+
+#include <string>
+
+namespace fenvale::sql {
+
+/// Error 3024 when there is no such file, 3051 when it is no file or cannot be read, 3027 when it or its folder cannot
+/// be written, 3343 when its head is not that of a store.
+void checkFile(const std::string& path);
+
+}  // namespace fenvale::sql
