@@ -104,6 +104,13 @@ void ListView::userClickRow(std::size_t index, MouseButton button) {
   });
 }
 
+void ListView::userRightClickEmpty() {
+  if (!acceptsInput()) return;
+  selected_.reset();
+  changed(Aspect::selection);
+  raise(onEmptyRightClick);
+}
+
 void ListView::userDoubleClickRow(std::size_t index) {
   if (!acceptsInput() || index >= items_.size()) return;
   const auto item = items_[index];

@@ -89,6 +89,8 @@ class ListView final : public Control {
 
   std::function<void(MouseButton)> onMouseDown;
   std::function<void(const std::shared_ptr<ListItem>&)> onItemClick;
+  /// The right button where no row is: below the last one, or in an empty list. No row is selected then.
+  std::function<void()> onEmptyRightClick;
   std::function<void(const std::shared_ptr<ListItem>&)> onItemDoubleClick;
   std::function<void(const std::shared_ptr<ListItem>&)> onItemCheck;
   /// The 1-based column.
@@ -96,6 +98,7 @@ class ListView final : public Control {
 
   void userMoveCursor(std::size_t index);  ///< arrow keys: picks nothing
   void userClickRow(std::size_t index, MouseButton button = MouseButton::left);
+  void userRightClickEmpty();
   void userDoubleClickRow(std::size_t index);
   void userCheckRow(std::size_t index, bool checked);
   void userClickColumn(std::size_t column);

@@ -45,6 +45,7 @@ frmEmpresaNova::frmEmpresaNova(Contexto& contexto)
   txtCaminho.onLostFocus = [this] {
     if (files::isFolder(txtCaminho.text())) drvArvoreDiretorios.setPath(txtCaminho.text());
   };
+  lstLista.onEmptyRightClick = [this] { vMostrarMenu(); };
   cmdSalvar.onClick = [this] { cmdSalvar_Click(); };
   cmdLocalizar.onClick = [this] { vAtualizarCampo(); };
 }

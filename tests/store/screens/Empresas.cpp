@@ -360,6 +360,21 @@ TEST_F(Nova, AnExistingFileBecomesKnown) {
   });
 }
 
+TEST_F(Nova, WithoutARowTheMenuOnlyOffersToFindACompany) {
+  referencia("casa.MDB", pasta());
+  tela([this](frmEmpresaNova& t) {
+    host.expectPopup("mnuPopUp", "");
+    t.lstLista.userRightClickEmpty();
+    EXPECT_TRUE(t.mnuPopUp.item("mnuLocalizarEmpresa").visible);
+    EXPECT_FALSE(t.mnuPopUp.item("mnuSep1").visible);
+    EXPECT_FALSE(t.mnuPopUp.item("mnuExcluirEmpresa").visible);
+    host.expectPopup("mnuPopUp", "");
+    t.lstLista.userClickRow(0, MouseButton::right);
+    EXPECT_TRUE(t.mnuPopUp.item("mnuSep1").visible);
+    EXPECT_TRUE(t.mnuPopUp.item("mnuExcluirEmpresa").visible);
+  });
+}
+
 TEST_F(Nova, NoFileToKnowIsTold) {
   tela([this](frmEmpresaNova& t) {
     esperarNenhumArquivo();

@@ -115,6 +115,7 @@ class RowsView final : public QTreeView {
   Headings& headings() const { return static_cast<Headings&>(*header()); }
   std::function<void(int row)> cursorMoved;
   std::function<void(int row, MouseButton button)> clickedRow;
+  std::function<void()> clickedNowhere;  ///< the right button, or the menu key, where no row is
   std::function<void(int row)> doubleClickedRow;
   std::function<void(int row)> ticked;
   bool ticks = false;
@@ -127,7 +128,10 @@ class RowsView final : public QTreeView {
   void mousePressEvent(QMouseEvent* event) override {
     const QModelIndex index = indexAt(event->position().toPoint());
     QTreeView::mousePressEvent(event);
-    if (!index.isValid()) return;
+    if (!index.isValid()) {
+      if (event->button() == Qt::RightButton) clickedNowhere();
+      return;
+    }
     const int row = index.row();
     if (event->button() == Qt::LeftButton && ticks && onTick(index, event->position().toPoint())) return ticked(row);
     if (event->button() == Qt::LeftButton) return clickedRow(row, MouseButton::left);
@@ -145,8 +149,8 @@ class RowsView final : public QTreeView {
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->matches(QKeySequence::Copy)) return copyRows();
-    if (event->key() == Qt::Key_Menu && currentIndex().isValid())
-      return clickedRow(currentIndex().row(), MouseButton::right);
+    if (event->key() == Qt::Key_Menu)
+      return currentIndex().isValid() ? clickedRow(currentIndex().row(), MouseButton::right) : clickedNowhere();
     if (event->key() != Qt::Key_Space || !currentIndex().isValid()) return QTreeView::keyPressEvent(event);
     const int row = currentIndex().row();
     const QPointer<RowsView> self(this);
@@ -255,6 +259,7 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
     view().cursorMoved = [this](int row) {
       if (!showing_) enter([&] { control().userMoveCursor(static_cast<std::size_t>(row)); });
     };
+    view().clickedNowhere = [this] { enter([this] { control().userRightClickEmpty(); }); };
     view().clickedRow = [this](int row, MouseButton button) {
       enter([&] { control().userClickRow(static_cast<std::size_t>(row), button); });
     };
