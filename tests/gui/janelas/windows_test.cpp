@@ -279,6 +279,29 @@ TEST_F(Janelas, TheHourglassComesAndGoes) {
   EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+TEST_F(Janelas, WhoWaitsForAPersonShowsNoHourglass) {
+  host.setPointer(Pointer::hourglass);
+  whenOpened(host, [this] {
+    EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
+    press(host, Qt::Key_Return);
+  });
+  host.messageBox(aviso);
+  EXPECT_NE(QGuiApplication::overrideCursor(), nullptr);
+  EXPECT_EQ(host.pointer(), Pointer::hourglass);
+  host.setPointer(Pointer::normal);
+}
+
+TEST_F(Janelas, EnterPressesAButtonWhereTheScreenLeavesItAlone) {
+  Pequena tela(host);
+  int clicks = 0;
+  tela.faz = [&] { ++clicks; };
+  host.show(tela);
+  tela.cmdFazer.setFocus();
+  press(host, Qt::Key_Return);
+  EXPECT_EQ(clicks, 1);
+  tela.unload();
+}
+
 TEST_F(Janelas, TheMonitorIsMeasuredInPixels) {
   EXPECT_EQ(host.monitorSize().width, 1024);
   EXPECT_EQ(host.monitorSize().height, 768);

@@ -48,6 +48,7 @@ QtHost::QtHost(HostOptions options)
 QtHost::~QtHost() {
   qApp->removeEventFilter(this);
   for (const Shown& shown : shown_) delete shown.window.data();
+  showBusy(false);
   // Windows that were closed when no event loop was there to delete them.
   QCoreApplication::sendPostedEvents(nullptr, QEvent::DeferredDelete);
   // The style draws by this host's theme.
@@ -84,9 +85,12 @@ void QtHost::throwKept() {
 }
 
 void QtHost::wait(QEventLoop& loop) {
+  // Whoever waits for a person is not busy.
+  showBusy(false);
   waits_.push_back(&loop);
   loop.exec();
   waits_.pop_back();
+  showBusy(pointer_ == Pointer::hourglass);
   throwKept();
 }
 
@@ -230,9 +234,13 @@ std::chrono::milliseconds QtHost::elapsed() const {
 }
 
 void QtHost::setPointer(Pointer pointer) {
-  if (pointer == pointer_) return;
   pointer_ = pointer;
-  if (pointer == Pointer::hourglass) {
+  showBusy(pointer == Pointer::hourglass);
+}
+
+void QtHost::showBusy(bool busy) {
+  if (std::exchange(busyShown_, busy) == busy) return;
+  if (busy) {
     QGuiApplication::setOverrideCursor(Qt::WaitCursor);
   } else {
     QGuiApplication::restoreOverrideCursor();
@@ -320,6 +328,12 @@ bool QtHost::afterScreenKey(ScreenWindow& window, const QKeyEvent& event) {
       if (screen.style() == ScreenStyle::mainWindow) return false;
       enter([&] { screen.userClose(); });
       return true;
+    case Key::enter:
+      if (auto* const button = qobject_cast<QPushButton*>(window.focusWidget())) {
+        button->click();
+        return true;
+      }
+      return false;
     default:
       return false;
   }

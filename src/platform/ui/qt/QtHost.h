@@ -95,6 +95,7 @@ class QtHost final : public QObject, public UiHost {
   bool screenKey(ScreenWindow& window, const QKeyEvent& event);
   bool afterScreenKey(ScreenWindow& window, const QKeyEvent& event);
   void applyTheme();
+  void showBusy(bool busy);
 
   HostOptions options_;
   Theme theme_;
@@ -107,6 +108,7 @@ class QtHost final : public QObject, public UiHost {
   std::chrono::milliseconds skipped_{0};
   std::chrono::steady_clock::time_point start_ = std::chrono::steady_clock::now();
   Pointer pointer_ = Pointer::normal;
+  bool busyShown_ = false;
 };
 
 }  // namespace fenvale::qt
