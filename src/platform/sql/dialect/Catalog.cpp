@@ -100,13 +100,13 @@ void Catalog::put(TableDescription table) {
 }
 
 void Catalog::apply(const Statement& definition) {
-  if (const auto* table = std::get_if<CreateTableStatement>(&definition)) apply(*table);
-  if (const auto* index = std::get_if<CreateIndexStatement>(&definition)) apply(*index);
-  if (const auto* column = std::get_if<AddColumnStatement>(&definition)) apply(*column);
-  if (const auto* constraint = std::get_if<AddConstraintStatement>(&definition)) apply(*constraint);
+  if (const auto* table = std::get_if<CreateTableStatement>(&definition)) define(*table);
+  if (const auto* index = std::get_if<CreateIndexStatement>(&definition)) define(*index);
+  if (const auto* column = std::get_if<AddColumnStatement>(&definition)) define(*column);
+  if (const auto* constraint = std::get_if<AddConstraintStatement>(&definition)) define(*constraint);
 }
 
-void Catalog::apply(const CreateTableStatement& create) {
+void Catalog::define(const CreateTableStatement& create) {
   if (find(create.table)) throw Error(errors::syntax, "A tabela " + create.table + " já existe.");
   TableDescription table;
   table.name = create.table;
@@ -121,13 +121,13 @@ void Catalog::apply(const CreateTableStatement& create) {
   put(std::move(table));
 }
 
-void Catalog::apply(const CreateIndexStatement& create) {
+void Catalog::define(const CreateIndexStatement& create) {
   TableDescription table = *get(create.table);
   addIndex(table, {create.name, create.columns, create.unique, false, create.where != nullptr});
   put(std::move(table));
 }
 
-void Catalog::apply(const AddColumnStatement& alter) {
+void Catalog::define(const AddColumnStatement& alter) {
   TableDescription table = *get(alter.table);
   if (table.find(alter.column.name) != TableDescription::none)
     throw Error(errors::columnExists, "A tabela " + table.name + " já tem o campo " + alter.column.name + ".");
@@ -138,7 +138,7 @@ void Catalog::apply(const AddColumnStatement& alter) {
   put(std::move(table));
 }
 
-void Catalog::apply(const AddConstraintStatement& alter) {
+void Catalog::define(const AddConstraintStatement& alter) {
   TableDescription table = *get(alter.table);
   addConstraint(table, alter.constraint);
   put(std::move(table));

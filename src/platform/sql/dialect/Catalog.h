@@ -61,10 +61,10 @@ class Catalog {
   std::vector<std::string> tableNames() const;
 
  private:
-  void apply(const CreateTableStatement& create);
-  void apply(const CreateIndexStatement& create);
-  void apply(const AddColumnStatement& alter);
-  void apply(const AddConstraintStatement& alter);
+  void define(const CreateTableStatement& create);
+  void define(const CreateIndexStatement& create);
+  void define(const AddColumnStatement& alter);
+  void define(const AddConstraintStatement& alter);
   void addConstraint(TableDescription& table, const ConstraintDefinition& constraint) const;
   void addRelation(TableDescription& table, const ConstraintDefinition& constraint) const;
   void put(TableDescription table);

@@ -70,7 +70,7 @@ enum Class : std::uint8_t { other = 0, blank = 1, letterClass = 2, digit = 4 };
 
 constexpr auto classes = [] {
   std::array<std::uint8_t, 256> table{};
-  for (unsigned char letter : {' ', '\t', '\r', '\n'}) table[letter] = blank;
+  for (char letter : {' ', '\t', '\r', '\n'}) table[static_cast<unsigned char>(letter)] = blank;
   for (unsigned code = 'A'; code <= 'Z'; ++code) table[code] = letterClass;
   for (unsigned code = 'a'; code <= 'z'; ++code) table[code] = letterClass;
   for (unsigned code = '0'; code <= '9'; ++code) table[code] = digit;
