@@ -1,5 +1,7 @@
 #include "shell/screens/Lancador.h"
 
+#include <filesystem>
+
 #include "access/screens/frmCadastroUsuarios.h"
 #include "access/screens/frmLogin.h"
 #include "access/services/Permissoes.h"
@@ -126,12 +128,80 @@ TEST_F(Inicio, TheSecondRunGoesThroughFirstUserLoginAndSystemToTheMainWindow) {
   EXPECT_EQ("2", Recordset("SELECT COUNT(lCodigo) AS n FROM Cidades", rodada.dbConectar().Dados())["n"].toText());
 }
 
-TEST_F(Inicio, AnUnreadableScriptEndsTheRun) {
-  pasta.gravar("SQL.xmlSQL", "<root><SQL>");
+/// What the program asks about a script that cannot be read: where it is broken is told in the parser's own words.
+MessageBox perguntaDaRevisao(const PastaTemporaria& pasta) {
   Rodada rodada(pasta, vRegistrarTelas);
-  TestHost& host = rodada.hostDeTeste();
-  EXPECT_THROW(Lancador(rodada).Main(true), TestHost::Unexpected) << "the repair question comes first";
-  EXPECT_EQ(BoxStyle::question, host.boxes().front().style);
+  EXPECT_THROW(Lancador(rodada).Main(true), TestHost::Unexpected);
+  return rodada.hostDeTeste().boxes().front();
+}
+
+TEST_F(Inicio, AnUnreadableScriptThatNoRepairHelpsEndsTheRun) {
+  pasta.gravar("SQL.xmlSQL", "<root><SQL>");
+  const MessageBox revisar = perguntaDaRevisao(pasta);
+  EXPECT_EQ(BoxStyle::question, revisar.style);
+  Rodada rodada(pasta, vRegistrarTelas);
+  rodada.hostDeTeste().expectBox(revisar, BoxAnswer::yes);
+  rodada.hostDeTeste().expectBox(
+      critica("A verificação falhou.\r\nContate o suporte técnico pelo e-mail: suporte@norvane.example"));
+  EXPECT_EQ(exitFailure, iniciar(rodada));
+}
+
+TEST_F(Inicio, AnUnreadableScriptLeftAloneBringsNoStoreUp) {
+  pasta.gravar("SQL.xmlSQL", "<root><SQL>");
+  const MessageBox revisar = perguntaDaRevisao(pasta);
+  Rodada rodada(pasta, vRegistrarTelas);
+  rodada.hostDeTeste().expectBox(revisar, BoxAnswer::no);
+  rodada.hostDeTeste().expectBox(revisar, BoxAnswer::no);  // the repairs of the data are read from the file anew
+  rodada.hostDeTeste().expectBox(relatoDeFalha(), BoxAnswer::no);
+  EXPECT_EQ(exitFailure, iniciar(rodada));
+  EXPECT_EQ("<root><SQL>", pasta.ler("SQL.xmlSQL"));
+}
+
+TEST_F(Inicio, AScriptThatIsMissingEndsTheRun) {
+  std::filesystem::remove(pasta.arquivo("SQL.xmlSQL"));
+  Rodada rodada(pasta, vRegistrarTelas);
+  rodada.hostDeTeste().expectBox(
+      critica("Falha ao atualizar o Banco de Dados.\r\nO programa será finalizado.\r\n"
+              "Tente executar o programa mais tarde, \r\n"
+              "e se o problema persistir, contate o suporte técnico.\r\n"
+              "e-mail de suporte: suporte@norvane.example\r\n\r\nInformação detalhada: \r\n\r\n"
+              "O arquivo " +
+              pasta.arquivo("SQL.xmlSQL") + " não foi localizado."));
+  EXPECT_EQ(exitFailure, iniciar(rodada));
+}
+
+/// What a report says about its place.
+std::string lugarDaFalha(const PastaTemporaria& pasta) {
+  const std::string sRelatorio = pasta.ler("Erros/260315143207.err");
+  const std::size_t inicio = sRelatorio.find("Formul");
+  return sRelatorio.substr(inicio, sRelatorio.find("N\xFAmero") - inicio);
+}
+
+class InicioSemTabelas : public Inicio {
+ protected:
+  /// A store that holds the cities and nothing else.
+  void SetUp() override {
+    Inicio::SetUp();
+    pasta.gravar("SQL.xmlSQL",
+                 "<root><SQL>CREATE TABLE Cidades (lCodigo COUNTER CONSTRAINT PK_Cidades PRIMARY KEY, "
+                 "sNome TEXT(150), sUF TEXT(2))</SQL></root>");
+    Rodada rodada(pasta, vRegistrarTelas);
+    // The only statement is the one that brings the connection up, which counts as no update.
+    rodada.hostDeTeste().expectBox(relatoDeFalha(), BoxAnswer::no);
+    ASSERT_EQ(exitFailure, iniciar(rodada));
+  }
+};
+
+TEST_F(InicioSemTabelas, AFailureOfTheStartIsReportedUnderItsName) {
+  EXPECT_EQ("Formul\xE1rio: Lancador\r\nFun\xE7\xE3o: Main\r\n", lugarDaFalha(pasta));
+}
+
+TEST_F(InicioSemTabelas, AFailureOfTheCheckOfTheSystemIsReportedUnderItsName) {
+  Rodada rodada(pasta, vRegistrarTelas);
+  rodada.dbConectar().Dados().open();
+  rodada.hostDeTeste().expectBox(relatoDeFalha(), BoxAnswer::no);
+  EXPECT_EQ(exitFailure, ProgramaDeTeste::codigoDeSaida([&] { Lancador(rodada).bVerificarDadosSistema(); }));
+  EXPECT_EQ("Formul\xE1rio: Lancador\r\nFun\xE7\xE3o: bVerificarDadosSistema\r\n", lugarDaFalha(pasta));
 }
 
 TEST_F(Inicio, TheFirstUserNotSavedEndsTheRun) {
@@ -232,6 +302,19 @@ TEST_F(Inicio, TheLastCompanyIsOpenBeforeTheMainWindowAndTheOverviewShows) {
   EXPECT_EQ("Gestor Fenvale - Versão ZENIT   -     Empresa: loja.MDB     -     Caminho: " + pasta.caminho() + "/",
             host.activeScreen()->caption());
   EXPECT_THAT(host.boxes(), testing::IsEmpty()) << "reopening is not announced";
+}
+
+TEST_F(Inicio, ALastCompanyThatIsOutOfDateEndsTheRunFromTheSplash) {
+  primeiroInicio();
+  createStore(pasta.arquivo("loja.MDB"));
+  pasta.gravar("Empresa.XML",
+               "<root><emp><cod>1</cod><file>loja.MDB</file><path>" + pasta.caminho() + "/</path></emp></root>");
+  Rodada rodada(pasta, vRegistrarTelas);
+  std::string sAtras;
+  rodada.hostDeTeste().then([&] { sAtras = rodada.hostDeTeste().activeScreen()->sGetName(); });
+  rodada.hostDeTeste().expectBox(informacao(sAtualizado));
+  EXPECT_EQ(exitRestart, iniciar(rodada));
+  EXPECT_EQ("frmSplash", sAtras);
 }
 
 TEST_F(Inicio, ALostLastCompanyIsToldDuringTheSplash) {

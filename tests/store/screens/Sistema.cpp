@@ -1,5 +1,6 @@
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
+#include "platform/os/Process.h"
 #include "shell/services/Telas.h"
 #include "store/screens/frmSistema.h"
 #include "store/services/ConfiguracoesPrograma.h"
@@ -256,6 +257,20 @@ TEST_F(DadosDoSistema, TheCombosCompleteWhileTyping) {
     t.cmbImpressoras.userKeyPress("a");
     EXPECT_EQ("Arquivo PDF", t.cmbImpressoras.text());
   });
+}
+
+TEST_F(DadosDoSistema, SettingsThatTheStoreRefusesAreLostAndTheNextStartAsksForALogin) {
+  salvar();
+  EXPECT_FALSE(programa.permissoes().bFazerLogin());
+  host.expectScreen("frmSistema", [this](Screen& tela) {
+    dynamic_cast<frmSistema&>(tela).txtSMTP.setText(std::string(300, 'x'));
+    host.expectBox(relatoDeFalha(), BoxAnswer::no);
+    tela.userKey(Key::f3);
+  });
+  EXPECT_EQ(exitFailure, ProgramaDeTeste::codigoDeSaida([&] { host.showModal(programa.telas().obter("frmSistema")); }));
+  EXPECT_THAT(configuracoes("sSMTP"), IsEmpty());
+  EXPECT_THAT(sistema("sNome"), ElementsAre(ElementsAre("Loja Modelo"))) << "the first of the two writes stays";
+  EXPECT_TRUE(programa.permissoes().bFazerLogin());
 }
 
 }  // namespace
