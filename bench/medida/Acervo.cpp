@@ -46,13 +46,4 @@ std::string sEmpresaGerada(const Volume& volume) {
   return arquivo;
 }
 
-Copia::Copia(const std::string& sArquivo) : sCaminho_(sArquivo + ".copia." + std::to_string(getpid())) {
-  fs::copy_file(sArquivo, sCaminho_, fs::copy_options::overwrite_existing);
-}
-
-Copia::~Copia() {
-  std::error_code semImportancia;
-  fs::remove(sCaminho_, semImportancia);
-}
-
 }  // namespace fenvale::bancada

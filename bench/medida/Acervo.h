@@ -22,17 +22,4 @@ class RelogioFixo final : public Clock {
 /// The path of the store of that size, made when needed. Nobody may write to it.
 std::string sEmpresaGerada(const Volume& volume);
 
-/// A copy of it to write to, gone with the object.
-class Copia {
- public:
-  explicit Copia(const std::string& sArquivo);
-  ~Copia();
-  Copia(const Copia&) = delete;
-  Copia& operator=(const Copia&) = delete;
-  const std::string& sGetCaminho() const { return sCaminho_; }
-
- private:
-  std::string sCaminho_;
-};
-
 }  // namespace fenvale::bancada
