@@ -110,6 +110,17 @@ class Listas {
         vezes, [&] { pelaTela(conexao_, consulta, inicio, bContar); }, [&] { aMao.resultado(inicio, bContar); });
   }
 
+  /// The first page when the count that was kept no longer holds.
+  Duracao paginaDepoisDeGravar(const Consulta& consulta) {
+    const std::string sMarca = "UPDATE Portadores SET sNome = 'Carteira' WHERE lCodigo = 1";
+    return mediana(vezes,
+                   [&] {
+                     Recordset(sMarca, conexao_);
+                     pelaTela(conexao_, consulta, 0, true);
+                   }) -
+           mediana(vezes, [&] { Recordset(sMarca, conexao_); });
+  }
+
   void vPaginas(const std::string& sLista, const Consulta& consulta, std::int32_t linhas) {
     const std::int32_t maior = std::min(linhas, maiorDeslocamento);
     const std::int32_t ultima = (maior - 1) / linhasPorPagina * linhasPorPagina;
@@ -144,6 +155,9 @@ int medir(const Opcoes& opcoes) {
   const std::int32_t salto = static_cast<std::int32_t>(volume.titulos / 10 * 9);
   relatorio.vLinhas("títulos: salto à linha " + std::to_string(salto), grande.pagina(consultaTitulos(), salto, false),
                     Listas::barra);
+
+  relatorio.vLinha("títulos abertos: primeira página depois de uma gravação",
+                   grande.paginaDepoisDeGravar(abertos).count(), "ms");
 
   Listas pequena(relatorio, volumePequeno);
   const Duracao comMilhao = grande.pagina(abertos, 0).programa;

@@ -19,7 +19,8 @@ class RelogioFixo final : public Clock {
   DateTime now() const override { return today(); }
 };
 
-/// The path of the store of that size, made when needed. Nobody may write to it.
+/// The path of the store of that size, made when needed. Who writes to it leaves
+/// its rows as they were.
 std::string sEmpresaGerada(const Volume& volume);
 
 }  // namespace fenvale::bancada
