@@ -55,12 +55,12 @@ std::string_view Comando::texto(int coluna) const {
 
 void Arquivo::Fechar::operator()(sqlite3* banco) const { sqlite3_close_v2(banco); }
 
-Arquivo::Arquivo(const std::string& sCaminho) {
+Arquivo::Arquivo(const std::string& sCaminho) : recusa_(std::make_unique<std::optional<Error>>()) {
   sqlite3* banco = nullptr;
   const int resposta = sqlite3_open_v2(sCaminho.c_str(), &banco, SQLITE_OPEN_READWRITE, nullptr);
   banco_.reset(banco);
   exigir(resposta == SQLITE_OK, banco);
-  sql::registerFunctions(banco);
+  sql::registerFunctions(banco, *recusa_);
 }
 
 void Arquivo::executar(const std::string& sSQL) {

@@ -4,8 +4,11 @@
 
 #include <cstdint>
 #include <memory>
+#include <optional>
 #include <string>
 #include <string_view>
+
+#include "platform/base/Error.h"
 
 struct sqlite3;
 struct sqlite3_stmt;
@@ -60,6 +63,7 @@ class Arquivo {
   struct Fechar {
     void operator()(sqlite3* banco) const;
   };
+  std::unique_ptr<std::optional<Error>> recusa_;  ///< where a function of the store leaves its refusal
   std::unique_ptr<sqlite3, Fechar> banco_;
 };
 
