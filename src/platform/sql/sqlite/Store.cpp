@@ -92,6 +92,7 @@ class Connection::Implementation {
         recordset.affected = write(bound);
         break;
       case Translation::Kind::definition:
+        requireWhole();
         settle({});
         if (database->schemaVersion() != schemaVersion) refreshCatalog();
         define(*database, catalog, parse(statement));
@@ -102,6 +103,7 @@ class Connection::Implementation {
   }
 
   std::int64_t write(const BoundRun& bound) {
+    requireWhole();
     settle(bound.translation->tables);
     database->speakOf(bound.translation->tables.front(), bound.translation->deletes);
     Prepared& prepared = bound.translation->whole;
@@ -124,6 +126,12 @@ class Connection::Implementation {
 
   void requireOpen() const {
     if (!database) throw Error(errors::connectionClosed, "A conexão com o banco de dados está fechada.");
+  }
+
+  /// After SQLite has rolled back by itself, what is written until the program does so too would be kept by mistake.
+  void requireWhole() const {
+    if (level > 0 && !database->inTransaction())
+      throw Error(errors::diskFull, "A gravação anterior falhou e a transação foi desfeita: nada mais é gravado nela.");
   }
 
   std::string levelName() const { return "t" + std::to_string(level); }
@@ -178,6 +186,7 @@ int Connection::beginTrans() {
   implementation_->requireOpen();
   if (implementation_->level == deepest)
     throw Error(errors::tooManyTransactions, "Não cabem mais de cinco transações uma na outra.");
+  implementation_->requireWhole();
   ++implementation_->level;
   try {
     implementation_->database->run(implementation_->level == 1 ? "BEGIN IMMEDIATE"
@@ -192,6 +201,7 @@ int Connection::beginTrans() {
 void Connection::commitTrans() {
   implementation_->requireOpen();
   if (implementation_->level == 0) throw Error(errors::noTransaction, "Não há transação aberta.");
+  implementation_->requireWhole();
   implementation_->database->run(implementation_->level == 1 ? "COMMIT" : "RELEASE " + implementation_->levelName());
   --implementation_->level;
 }
@@ -201,13 +211,10 @@ void Connection::rollbackTrans() {
   if (implementation_->level == 0) throw Error(errors::noTransaction, "Não há transação aberta.");
   implementation_->settle({});
   const std::string name = implementation_->levelName();
-  if (implementation_->level == 1) {
-    // A full disk makes SQLite roll back by itself.
-    if (implementation_->database->inTransaction()) implementation_->database->run("ROLLBACK");
-  } else {
-    implementation_->database->run("ROLLBACK TO " + name);
-    implementation_->database->run("RELEASE " + name);
-  }
+  // A disk that is full or fails makes SQLite roll back everything by itself.
+  if (implementation_->database->inTransaction())
+    implementation_->database->run(implementation_->level == 1 ? "ROLLBACK"
+                                                               : "ROLLBACK TO " + name + "; RELEASE " + name);
   --implementation_->level;
   if (implementation_->database->schemaVersion() != implementation_->schemaVersion) implementation_->refreshCatalog();
 }
