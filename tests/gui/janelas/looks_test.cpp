@@ -105,6 +105,27 @@ TEST_F(Janelas, TheMainWindowShowsItsMenuToolsAndStatus) {
   janela.unload();
 }
 
+TEST_F(Janelas, ALongStatusGivesWayInANarrowWindow) {
+  JanelaExemplo janela(host, FENVALE_SOURCE_DIR "/data/figuras/FiguraFundo1024x768.gif");
+  const std::string path = "/home/balcao/documentos/contabilidade/empresas do grupo/ano corrente/Loja Modelo.MDB";
+  janela.sttStatusBar.setPanel("empresa", "Empresa: " + path);
+  janela.sttStatusBar.setPanel("base", "Base de dados: " + path);
+  host.show(janela);
+  QWidget& window = *windowOf(janela);
+  for (const int width : {1200, 800}) {
+    window.resize(width, 600);
+    QCoreApplication::processEvents();
+    EXPECT_EQ(window.width(), width);
+    EXPECT_THAT(cutTexts(window), IsEmpty()) << width;
+    EXPECT_THAT(overlaps(window), IsEmpty()) << width;
+  }
+  int shortened = 0;
+  for (const QLabel* label : window.findChildren<QLabel*>())
+    if (label->text().contains(u'\u2026') && label->toolTip().endsWith("Loja Modelo.MDB")) ++shortened;
+  EXPECT_EQ(shortened, 2);
+  janela.unload();
+}
+
 TEST_F(Janelas, TheSplashHasNoFrameAndNothingCut) {
   AberturaExemplo abertura(host);
   host.show(abertura);

@@ -84,11 +84,43 @@ class ToolBarBinding final : public BindingOf<ToolBar, QToolBar> {
   }
 };
 
+/// A text that gives way when the window is narrow: it then shows its ends, and the whole of it in its tip.
+class PanelLabel final : public QLabel {
+ public:
+  void showText(const QString& text) {
+    whole_ = text;
+    setToolTip(text);
+    fit();
+    updateGeometry();
+  }
+  QSize sizeHint() const override { return ofWidth(widest); }
+  QSize minimumSizeHint() const override { return ofWidth(narrowest); }
+
+ protected:
+  void resizeEvent(QResizeEvent* event) override {
+    QLabel::resizeEvent(event);
+    fit();
+  }
+
+ private:
+  QSize ofWidth(int limit) const {
+    return {std::min(fontMetrics().horizontalAdvance(whole_) + 2, limit), fontMetrics().height()};
+  }
+  // The end of a path tells more than its middle.
+  void fit() {
+    const int room = testAttribute(Qt::WA_Resized) ? width() : widest;
+    setText(fontMetrics().elidedText(whole_, Qt::ElideMiddle, room));
+  }
+
+  static constexpr int widest = 360, narrowest = 140;
+  QString whole_;
+};
+
 class StatusBarBinding final : public BindingOf<StatusBar, QWidget> {
  public:
   StatusBarBinding(QtHost& host, StatusBar& control, QWidget& bar, QHBoxLayout& row) : BindingOf(host, control, bar) {
     for (std::size_t place = 0; place < control.panels().size(); ++place) {
-      auto* const label = new QLabel;
+      auto* const label = new PanelLabel;
       label->setFont(host.theme().labelFont());
       label->setTextInteractionFlags(Qt::TextSelectableByMouse);
       label->setFocusPolicy(Qt::NoFocus);
@@ -104,17 +136,13 @@ class StatusBarBinding final : public BindingOf<StatusBar, QWidget> {
   void refresh(Aspect) override {
     for (std::size_t place = 0; place < labels_.size(); ++place) {
       const QString text = toQt(control().panels()[place].text);
-      // The end of a path tells more than its middle.
-      const QFontMetrics metrics(host().theme().labelFont());
-      labels_[place]->setText(metrics.elidedText(text, Qt::ElideMiddle, widest));
+      labels_[place]->showText(text);
       labels_[place]->setVisible(!text.isEmpty());
-      labels_[place]->setToolTip(text);
     }
   }
 
  private:
-  static constexpr int widest = 360;
-  std::vector<QLabel*> labels_;
+  std::vector<PanelLabel*> labels_;
 };
 
 }  // namespace
