@@ -20,26 +20,12 @@ constexpr const char* sSelecao =
     "Cidades.lCodigo) AS UFCobranca FROM (Clientes INNER JOIN Categorias ON Clientes.lCategoria = Categorias.lCodigo) "
     "INNER JOIN Vendedores ON Clientes.lVendedor = Vendedores.lCodigo ";
 
-NomesCampoCidade nomesCidade(const std::string& sSufixo, const std::string& sBotao) {
-  return {"txtCidade" + sSufixo, "txtUF" + sSufixo, sBotao};
-}
-
 }  // namespace
 
 frmCadastroClientes::frmCadastroClientes(Contexto& contexto)
-    : TelaCadastro(contexto, "frmCadastroClientes"),
-      categoria(*this, contexto, {&txtCategoria},
-                {"frmLocalizarCategoriasRapido", &txtNome, "cmdBuscarCategoria", "Localizar categoria"}),
-      vendedor(*this, contexto, {&txtVendedor},
-               {"frmLocalizarVendedoresRapido", &txtRG, "cmdBuscarVendedor", "Localizar vendedor"}),
-      cidade(*this, contexto, CampoCidade::Modo::busca, true, nomesCidade("", "cmdBuscarCidade")),
-      cidadeEntrega(*this, contexto, CampoCidade::Modo::busca, true, nomesCidade("Entrega", "cmdBuscaCidadeEntrega")),
-      cidadeCobranca(*this, contexto, CampoCidade::Modo::busca, true,
-                     nomesCidade("Cobranca", "cmdBuscaCidadeCobranca")) {
+    : TelaCadastro(contexto, "frmCadastroClientes"), FormularioCliente(*this, contexto) {
   categoria.vSetCadastro("frmCadastroCategorias", "Cadastrar categoria", cmdNovaCategoria);
   vendedor.vSetCadastro("frmCadastroVendedores", "Cadastrar vendedor", cmdNovoVendedor);
-  cidade.aposBusca = [this] { txtCEP.setFocus(); };
-  cidadeEntrega.aposBusca = [this] { txtEnderecoCobranca.setFocus(); };
 
   const auto chave = [](const CampoCidade& local) {
     return std::function<std::int32_t()>([&local] { return local.lGetCodigo(); });
@@ -128,25 +114,9 @@ frmCadastroClientes::frmCadastroClientes(Contexto& contexto)
 }
 
 void frmCadastroClientes::vMontarFormulario() {
-  vMontarTela({
-      aba("Dados gerais", {linha({campo("&Código", txtCodigoInf, 3), categoria.campoPrincipal("Categoria", 5),
-                                  campo("&Nome", txtNome, cresce), campo("&Limite de crédito", txtLimiteCredito, 4)}),
-                           linha({campo("&Endereço", txtEndereco, cresce), campo("&Bairro", txtBairro, 5),
-                                  cidade.campoNome(6), cidade.campoUF(2)}),
-                           linha({campo("CEP", txtCEP, 3), campo("&Telefone", txtTelefone, 4), campo("Fax", txtFax, 4),
-                                  campo("C&ontato", txtContato, cresce), vendedor.campoPrincipal("Vendedor", 8)}),
-                           linha({campo("&RG", txtRG, 4), campo("C&PF", txtCPF, 4), campo("&IE", txtIE, 4),
-                                  campo("CNP&J", txtCNPJ, cresce), campo("N&ascimento", dtNascimento, 4)}),
-                           linha({campo("e-&Mail", txtEMail, 7), campo("&Home Page", txtHomePage, 7),
-                                  campo("Ob&servação", txtObs, cresce)})}),
-      aba("Filiação", {linha({campo("Nome do pai", txtPai, cresce), campo("Nome da mãe", txtMae, cresce)})}),
-      aba("Local de entrega",
-          {linha({campo("Endereço", txtEnderecoEntrega, cresce), campo("Bairro", txtBairroEntrega, 5)}),
-           linha({cidadeEntrega.campoNome(10), cidadeEntrega.campoUF(2), campo("CEP", txtCEPEntrega, 3)})}),
-      aba("Local de cobrança",
-          {linha({campo("Endereço", txtEnderecoCobranca, cresce), campo("Bairro", txtBairroCobranca, 5)}),
-           linha({cidadeCobranca.campoNome(10), cidadeCobranca.campoUF(2), campo("CEP", txtCEPCobranca, 3)})}),
-  });
+  vMontarTela(abas({campo("&Limite de crédito", txtLimiteCredito, 4)}, {campo("N&ascimento", dtNascimento, 4)},
+                   {linha({campo("e-&Mail", txtEMail, 7), campo("&Home Page", txtHomePage, 7),
+                           campo("Ob&servação", txtObs, cresce)})}));
   setPreferredSize(24, 36);
 }
 

@@ -2,53 +2,18 @@
 // The full search of the customers: the boxes of their register, each of which narrows the list when something is in
 // it.
 
+#include "registers/screens/FormularioCliente.h"
 #include "registers/screens/TelaBuscaCompleta.h"
-#include "registers/services/CampoBusca.h"
-#include "registers/services/CampoCidade.h"
 
 namespace fenvale {
 
-class frmLocalizarClientes final : public TelaBuscaCompleta, public ReceptorCategoria, public ReceptorVendedor {
+class frmLocalizarClientes final : public TelaBuscaCompleta, public FormularioCliente {
  public:
   explicit frmLocalizarClientes(Contexto& contexto);
 
-  CodeBox txtCodigoInf{*this, "txtCodigoInf"};
-  LookupBox txtCategoria{*this, "txtCategoria"};
-  TextBox txtNome{*this, "txtNome", 50};
-  TextBox txtEndereco{*this, "txtEndereco", 100};
-  TextBox txtBairro{*this, "txtBairro", 50};
-  MaskBox txtCEP{*this, "txtCEP", masks::cep};
-  MaskBox txtTelefone{*this, "txtTelefone", masks::telefone};
-  MaskBox txtFax{*this, "txtFax", masks::telefone};
-  TextBox txtContato{*this, "txtContato", 50};
-  LookupBox txtVendedor{*this, "txtVendedor"};
-  TextBox txtRG{*this, "txtRG", 20};
-  MaskBox txtCPF{*this, "txtCPF", masks::cpf};
-  MaskBox txtIE{*this, "txtIE", masks::ie};
-  MaskBox txtCNPJ{*this, "txtCNPJ", masks::cnpj};
   CheckBox chkNascimento{*this, "chkNascimento", "Na&scimento"};
   DatePicker dtNascimentoInicial{*this, "dtNascimentoInicial"};
   DatePicker dtNascimentoFinal{*this, "dtNascimentoFinal"};
-  TextBox txtEMail{*this, "txtEMail", 50};
-  TextBox txtHomePage{*this, "txtHomePage", 50};
-  TextBox txtObs{*this, "txtObs"};
-  TextBox txtPai{*this, "txtPai", 50};
-  TextBox txtMae{*this, "txtMae", 50};
-  TextBox txtEnderecoEntrega{*this, "txtEnderecoEntrega", 100};
-  TextBox txtBairroEntrega{*this, "txtBairroEntrega", 50};
-  MaskBox txtCEPEntrega{*this, "txtCEPEntrega", masks::cep};
-  TextBox txtEnderecoCobranca{*this, "txtEnderecoCobranca", 100};
-  TextBox txtBairroCobranca{*this, "txtBairroCobranca", 50};
-  MaskBox txtCEPCobranca{*this, "txtCEPCobranca", masks::cep};
-
-  CampoBusca categoria;
-  CampoBusca vendedor;
-  CampoCidade cidade;
-  CampoCidade cidadeEntrega;
-  CampoCidade cidadeCobranca;
-
-  void vSetCategoria(std::int32_t lChave, const std::string& sTexto) override { categoria.vSet(lChave, sTexto); }
-  void vSetVendedor(std::int32_t lChave, const std::string& sTexto) override { vendedor.vSet(lChave, sTexto); }
 
  protected:
   void onLoad() override;
