@@ -96,6 +96,10 @@ void Screen::setFocus(Control& control) {
   host_.focusChanged(control);
 }
 
+void Screen::userFocus(Control& control) {
+  if (control.enabled() && control.visible()) moveFocus(&control);
+}
+
 void Screen::moveFocus(Control* control) {
   if (focused_ == control) return;
   Control* const previous = focused_;

@@ -67,6 +67,8 @@ class Screen {
 
   Control* focused() const { return focused_; }
   void setFocus(Control& control);
+  /// For hosts: the person has gone to a control, whose view has the keyboard already.
+  void userFocus(Control& control);
   /// To the next control in tab order, going round.
   void focusNext();
   void focusPrevious();

@@ -112,6 +112,18 @@ TEST_F(CadastrosEmJanelas, ARecordIsTypedAndStored) {
   EXPECT_EQ(tela.state(), Screen::State::unloaded);
 }
 
+TEST_F(CadastrosEmJanelas, TheProposedCodeOfANewRecordIsTypedOverWhereverTheFocusWas) {
+  auto& tela = dynamic_cast<TelaCadastro&>(abrir("frmCadastroCategorias"));
+  auto& txtCodigoInf = dynamic_cast<TextControl&>(*tela.control("txtCodigoInf"));
+  for (const bool bJaNoCodigo : {true, false}) {
+    if (!bJaNoCodigo) tecla(Qt::Key_Tab);
+    tecla(Qt::Key_F2);
+    EXPECT_EQ(txtCodigoInf.text(), "3");
+    escrever("41");
+    EXPECT_EQ(txtCodigoInf.text(), "41");
+  }
+}
+
 TEST_F(CadastrosEmJanelas, ACategoryIsPickedByKeys) {
   auto& tela = dynamic_cast<frmCadastroClientes&>(abrir("frmCadastroClientes"));
   tecla(Qt::Key_Tab);

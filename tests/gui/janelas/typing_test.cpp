@@ -21,6 +21,29 @@ TEST_F(Controles, FocusFromTheKeyboardMarksTheWholeText) {
   EXPECT_EQ(tela.txtCodigo.text(), "7");
 }
 
+TEST_F(Controles, ABoxThatIsGivenTheFocusItHasIsTypedOver) {
+  tela.txtCodigo.setFocus();
+  write("7");
+  tela.txtCodigo.setText("13");
+  tela.txtCodigo.setFocus();
+  write("8");
+  EXPECT_EQ(tela.txtCodigo.text(), "8");
+}
+
+TEST_F(Controles, ABoxThatThePersonClicksKeepsItsCaretAndItsText) {
+  tela.txtCodigo.setText("12");
+  tela.txtTexto.setFocus();
+  auto& edit = widget<QLineEdit>(tela.txtCodigo);
+  int focused = 0;
+  tela.txtCodigo.onGotFocus = [&] { ++focused; };
+  for (const int time : {1, 2}) {
+    QTest::mouseClick(&edit, Qt::LeftButton, {}, QPoint(edit.width() / 2, edit.height() / 2));
+    EXPECT_TRUE(tela.txtCodigo.hasFocus());
+    EXPECT_FALSE(edit.hasSelectedText()) << time;
+  }
+  EXPECT_EQ(focused, 1);
+}
+
 TEST_F(Controles, AWrongKeyIsRefusedAtTheBox) {
   tela.txtCodigo.setFocus();
   write("2x56");

@@ -89,8 +89,10 @@ bool Binding::eventFilter(QObject* watched, QEvent* event) {
   if (control_ == nullptr) return QObject::eventFilter(watched, event);
   if (event->type() == QEvent::FocusOut) commit();
   if (event->type() == QEvent::FocusIn && control_ != nullptr && control_->screen().focused() != control_ &&
-      control_->takesFocus())
-    enter([this] { control_->screen().setFocus(*control_); });
+      control_->takesFocus()) {
+    if (auto* const window = dynamic_cast<ScreenWindow*>(widget_.window())) window->bringIntoView(widget_);
+    enter([this] { control_->screen().userFocus(*control_); });
+  }
   // A wheel that scrolls the screen must not turn the values it passes over.
   if (event->type() == QEvent::Wheel && !widget_.hasFocus() && qobject_cast<QAbstractItemView*>(&widget_) == nullptr) {
     event->ignore();

@@ -255,10 +255,14 @@ void ScreenWindow::giveFocus(Control& control) {
   QWidget& widget = binding->widget();
   for (const BuiltLayout::Group& group : built_.groups)
     if (group.tabs != nullptr && group.page->isAncestorOf(&widget)) group.tabs->setCurrentWidget(group.page);
-  const bool arrives = !widget.hasFocus();
   widget.setFocus(Qt::OtherFocusReason);
+  bringIntoView(widget);
+  // A box that is given the focus is to be typed over, also when it had the focus: a new record proposes its code.
+  if (QGuiApplication::mouseButtons() == Qt::NoButton) binding->focusGiven();
+}
+
+void ScreenWindow::bringIntoView(QWidget& widget) {
   if (body_->isAncestorOf(&widget)) scroll_->ensureWidgetVisible(&widget, 0, 24);
-  if (arrives && QGuiApplication::mouseButtons() == Qt::NoButton) binding->focusGiven();
 }
 
 void ScreenWindow::commitFocused() {

@@ -36,7 +36,9 @@ class ScreenWindow final : public QWidget {
   void screenChanged();
   void themeChanged();
   void controlVisibilityChanged();
+  /// The rules send the keyboard there: what the box holds is marked, to be typed over.
   void giveFocus(Control& control);
+  void bringIntoView(QWidget& widget);
   /// Hands over what is typed in the focused box and not yet taken.
   void commitFocused();
   QWidget* widgetOf(const Control& control) const;
