@@ -183,9 +183,10 @@ void TelaCadastro::cmdLocalizar_Click() try {
 }
 
 void TelaCadastro::vCarregarLinha(const ListItem& item) {
+  const Date dtHoje = contexto().relogio().today();
   lCodigo = lCodigoDaChave(item.key());
   for (std::size_t i = 0; i < colunas().size(); ++i)
-    colunas()[i].destino.vCarregar(i == 0 ? item.text() : item.subItem(i));
+    colunas()[i].destino.vCarregar(i == 0 ? item.text() : item.subItem(i), dtHoje);
   vAposCarregar(item);
   contexto().configuracoes().vSetClickAnterior(lCodigo);
   setNote("Editando o registro " + item.text());
@@ -200,7 +201,7 @@ void TelaCadastro::vClicarLinha(const std::shared_ptr<ListItem>& item) try {
   vEsquecerBotaoDoMouse();
   if (bDireito && menuTitulos_) menuTitulos_->vAbrir();
 } catch (const Error& falha) {
-  vRegistrarFalha(falha, "lstLista_ItemClick", iContinuar);
+  vRegistrarFalha(falha, "lstLista_itemClick", iContinuar);
 }
 
 }  // namespace fenvale

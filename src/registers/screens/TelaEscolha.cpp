@@ -58,7 +58,7 @@ void TelaEscolha::vClicarLinha(const std::shared_ptr<ListItem>& item) try {
   vEscolher(lChave);
   unload();
 } catch (const Error& falha) {
-  vRegistrarFalha(falha, "lstLista_ItemClick", 2);
+  vRegistrarFalha(falha, "lstLista_itemClick", 2);
 }
 
 }  // namespace fenvale

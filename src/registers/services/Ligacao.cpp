@@ -28,12 +28,13 @@ struct Literal {
 
 struct Carga {
   const std::string& sTexto;
+  Date dtHoje;
 
   void operator()(std::monostate) const {}
   void operator()(TextControl* caixa) const { caixa->setText(sTexto); }
   void operator()(MoneyBox* caixa) const { caixa->setValue(Currency::fromBrazilian(sTexto)); }
   void operator()(DatePicker* caixa) const {
-    const auto dtData = readDate(sTexto);
+    const auto dtData = sTexto.empty() ? dtHoje : readDate(sTexto);
     if (!dtData) throw Error(errors::typeMismatch, "\"" + sTexto + "\" não é uma data.");
     caixa->setValue(*dtData);
   }
@@ -56,7 +57,7 @@ struct ControleTocado {
 }  // namespace
 
 std::string Ligacao::sLiteral() const { return std::visit(Literal{}, lugar_); }
-void Ligacao::vCarregar(const std::string& sTexto) const { std::visit(Carga{sTexto}, lugar_); }
+void Ligacao::vCarregar(const std::string& sTexto, Date dtHoje) const { std::visit(Carga{sTexto, dtHoje}, lugar_); }
 Control* Ligacao::controle() const { return std::visit(ControleTocado{}, lugar_); }
 
 bool Ligacao::bVazio() const {

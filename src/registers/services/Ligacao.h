@@ -7,6 +7,8 @@
 #include <string>
 #include <variant>
 
+#include "platform/base/Date.h"
+
 namespace fenvale {
 
 class CheckBox;
@@ -31,8 +33,9 @@ class Ligacao {
   /// The literal as it stands in a statement, quotes included. Codes and numbers are the text of their box, an empty
   /// one being 0; a tick is -1 or 0.
   std::string sLiteral() const;
-  /// From a cell: money and dates as they are shown, a tick from "Sim". Error 13 when the text is no such value.
-  void vCarregar(const std::string& sTexto) const;
+  /// From a cell: money and dates as they are shown, a tick from "Sim". A picker always holds a day, so a cell without
+  /// one gives it `dtHoje`. Error 13 when the text is no such value.
+  void vCarregar(const std::string& sTexto, Date dtHoje) const;
   /// A text box with nothing in it. Blanks are something.
   bool bVazio() const;
   /// Nothing when no control is tied.

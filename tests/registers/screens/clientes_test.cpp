@@ -193,6 +193,41 @@ TEST_F(Clientes, StoresEveryBoxAndLoadsItBack) {
           ", lCidadeCobranca = " + std::to_string(lCampinas) + " WHERE lCodigo = " + std::to_string(tela.lGetCodigo()));
 }
 
+TEST_F(Clientes, ARowWithNothingInItLoadsAsEmptyBoxesAndTodaysDate) {
+  const auto lCategoria = inserir("Categorias", "btCodigoInf, sNome", "3, 'Atacado'");
+  const auto lVendedor = inserir("Vendedores", "lCodigoInf, sNome", "5, 'Maria'");
+  const std::string sCampinas = std::to_string(lCampinas);
+  inserir("Clientes", "lCategoria, lCidade, lVendedor, lCidadeEntrega, lCidadeCobranca",
+          std::to_string(lCategoria) + ", " + sCampinas + ", " + std::to_string(lVendedor) + ", " + sCampinas + ", " +
+              sCampinas);
+  auto& tela = abrirClientes();
+  tela.dtNascimento.userType("12/08/1975");
+  tela.txtLimiteCredito.userType("10,00");
+  tela.lstLista.userClickRow(0);
+  EXPECT_GT(tela.lGetCodigo(), 0);
+  EXPECT_TRUE(tela.txtCodigoInf.empty());
+  EXPECT_TRUE(tela.txtNome.empty());
+  EXPECT_EQ(tela.txtLimiteCredito.value(), Currency());
+  EXPECT_EQ(tela.dtNascimento.value(), programa.relogio().today());
+  EXPECT_EQ(tela.cidade.lGetCodigo(), lCampinas);
+  tela.txtCodigoInf.userType("9");
+  tela.txtNome.userType("Do console");
+  salvar(tela);
+  EXPECT_EQ(valor("SELECT lCodigoInf, sNome FROM Clientes"), "9|Do console");
+}
+
+TEST_F(Clientes, ACityThatIsNoLongerFoundIsAskedForAgain) {
+  cliente(1, "José Pereira");
+  auto& tela = abrirClientes();
+  executar("UPDATE Cidades SET sNome = 'Outra' WHERE lCodigo = " + std::to_string(lCampinas));
+  tela.lstLista.userClickRow(0);
+  EXPECT_EQ(tela.cidade.txtCidade.text(), "Campinas");
+  EXPECT_EQ(tela.cidade.lGetCodigo(), -1);
+  host.expectBox(aviso("Informe a cidade."));
+  tela.userKey(Key::f3);
+  EXPECT_TRUE(tela.cidade.txtCidade.hasFocus());
+}
+
 TEST_F(Clientes, AnEditedCustomersDistrictOfDeliveryBecomesTheMainOne) {
   auto& tela = abrirClientes();
   preencher(tela, "Bar do Élio");

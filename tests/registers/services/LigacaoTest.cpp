@@ -36,6 +36,7 @@ class Ligacoes : public testing::Test {
     }
     return 0;
   }
+  const Date hoje = makeDate(2026, 5, 10);
   TestHost host;
   Formulario tela{host};
 };
@@ -68,24 +69,39 @@ TEST_F(Ligacoes, AnEmptyNumberIsZeroAndAnEmptyTextIsEmpty) {
 }
 
 TEST_F(Ligacoes, CellsAreReadAsTheyAreShown) {
-  Ligacao(tela.txtNome).vCarregar("Norte");
-  Ligacao(tela.txtValor).vCarregar("1.234,50");
-  Ligacao(tela.dtDia).vCarregar("05/03/2026");
-  Ligacao(tela.chkEntrada).vCarregar("Sim");
-  Ligacao(tela.lChave).vCarregar("42");
-  Ligacao().vCarregar("nada");
+  Ligacao(tela.txtNome).vCarregar("Norte", hoje);
+  Ligacao(tela.txtValor).vCarregar("1.234,50", hoje);
+  Ligacao(tela.dtDia).vCarregar("05/03/2026", hoje);
+  Ligacao(tela.chkEntrada).vCarregar("Sim", hoje);
+  Ligacao(tela.lChave).vCarregar("42", hoje);
+  Ligacao().vCarregar("nada", hoje);
   EXPECT_EQ(tela.txtNome.text(), "Norte");
   EXPECT_EQ(tela.txtValor.value(), Currency::fromDecimal("1234.5"));
   EXPECT_EQ(tela.dtDia.value(), makeDate(2026, 3, 5));
   EXPECT_TRUE(tela.chkEntrada.checked());
   EXPECT_EQ(tela.lChave, 42);
-  Ligacao(tela.chkEntrada).vCarregar("Não");
+  Ligacao(tela.chkEntrada).vCarregar("Não", hoje);
   EXPECT_FALSE(tela.chkEntrada.checked());
 }
 
 TEST_F(Ligacoes, ACellOfAnotherKindIsRefused) {
-  EXPECT_EQ(numeroDa([&] { Ligacao(tela.dtDia).vCarregar(""); }), errors::typeMismatch);
-  EXPECT_EQ(numeroDa([&] { Ligacao(tela.txtValor).vCarregar("muito"); }), errors::typeMismatch);
+  EXPECT_EQ(numeroDa([&] { Ligacao(tela.dtDia).vCarregar("32/01/2026", hoje); }), errors::typeMismatch);
+  EXPECT_EQ(numeroDa([&] { Ligacao(tela.txtValor).vCarregar("muito", hoje); }), errors::typeMismatch);
+}
+
+TEST_F(Ligacoes, AnEmptyCellEmptiesItsPlaceAndADayBecomesToday) {
+  tela.txtNome.setText("Norte");
+  tela.txtValor.setValue(Currency::fromDecimal("10"));
+  tela.dtDia.setValue(makeDate(1975, 8, 12));
+  tela.chkEntrada.setChecked(true);
+  Ligacao(tela.txtNome).vCarregar("", hoje);
+  Ligacao(tela.txtValor).vCarregar("", hoje);
+  Ligacao(tela.dtDia).vCarregar("", hoje);
+  Ligacao(tela.chkEntrada).vCarregar("", hoje);
+  EXPECT_EQ(tela.txtNome.text(), "");
+  EXPECT_EQ(tela.txtValor.value(), Currency());
+  EXPECT_EQ(tela.dtDia.value(), hoje);
+  EXPECT_FALSE(tela.chkEntrada.checked());
 }
 
 TEST_F(Ligacoes, OnlyATextWithoutACharacterIsEmpty) {
