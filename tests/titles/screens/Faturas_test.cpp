@@ -137,6 +137,22 @@ TEST_P(FaturasTest, ARowBringsTheInvoiceBackIntoTheForm) {
   }
 }
 
+TEST_P(FaturasTest, ARowWithNothingInItLoadsAsZerosAndTodaysDate) {
+  const int chave = cenario.inserirFatura("10,00");
+  cenario.executar("UPDATE " + lado.sFaturas +
+                   " SET lNumeroFatura = NULL, dtEmissao = NULL, fTotal = NULL, fEntrada = "
+                   "NULL");
+  faturas().dtEmissao.userType("01/03/2020");
+  faturas().txtEntrada.userType("5,00");
+  const TelaFaturas& tela = abrirFatura(chave);
+  EXPECT_EQ(tela.lGetCodigo(), chave);
+  EXPECT_TRUE(tela.txtNumeroFatura.empty());
+  EXPECT_EQ(formatDate(tela.dtEmissao.value()), "10/05/2026");
+  EXPECT_EQ(tela.txtTotal.value(), Currency());
+  EXPECT_EQ(tela.txtEntrada.value(), Currency());
+  EXPECT_EQ(tela.entidades.centroCusto.busca.lCodigo, 1);
+}
+
 TEST_P(FaturasTest, TheTickOfTheConditionIsNotTheUsersToChange) {
   digitarFatura("100,00").chkEntrada.userClick();
   EXPECT_FALSE(faturas().chkEntrada.checked());

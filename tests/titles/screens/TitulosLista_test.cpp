@@ -126,6 +126,31 @@ TEST_P(TitulosListaTest, AnOpenTitleShowsNoPaymentDateAndIsSettledToday) {
   EXPECT_EQ(formatDate(tela.dtPagamento.value()), "10/05/2026");
 }
 
+TEST_P(TitulosListaTest, ARowWithNothingInItLoadsAsZerosAndTodaysDate) {
+  criarFatura("90,00", umaVez);
+  cenario.executar("UPDATE " + lado.sTitulos +
+                   " SET dtVencimento = NULL, fValor = NULL, dtPagamento = NULL, fValorPago = NULL, fJuros = NULL, "
+                   "fDesconto = NULL, lNF = NULL, sObs = NULL");
+  const TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  EXPECT_EQ(tela.lGetCodigo(), 1);
+  EXPECT_EQ(formatDate(tela.dtVencimento.value()), "10/05/2026");
+  EXPECT_EQ(formatDate(tela.dtPagamento.value()), "10/05/2026");
+  EXPECT_EQ(tela.txtValor.value(), Currency());
+  EXPECT_TRUE(tela.txtObs.empty());
+}
+
+TEST_P(TitulosListaTest, ATitleThatIsGoneIsReportedUnderTheNameOfTheClick) {
+  criarFatura("90,00");
+  TelaTitulosCadastro& tela = titulos();
+  cenario.executar("DELETE * FROM " + lado.sTitulos + " WHERE lCodigo = 1");
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  tela.lstLista.userClickRow(0);
+  host.verify();
+  EXPECT_EQ(tela.state(), Screen::State::loaded);
+  EXPECT_THAT(cenario.programa.pasta().ler("Erros/" + cenario.programa.pasta().nomes("Erros").at(0)),
+              testing::HasSubstr("lstLista_itemClick"));
+}
+
 TEST_P(TitulosListaTest, NewGoesBackToTheOpenTitles) {
   criarFatura("90,00", tresComEntrada, "30,00");
   abrirTitulo("000001/001").userKey(Key::f2);
