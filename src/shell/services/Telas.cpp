@@ -29,7 +29,10 @@ Screen& Telas::obter(std::string_view sNome) {
 
 void Telas::descartar(std::string_view sNome) {
   const auto encontrada = entradas_.find(sNome);
-  if (encontrada != entradas_.end()) encontrada->second.tela.reset();
+  if (encontrada == entradas_.end()) return;
+  std::unique_ptr<Screen>& tela = encontrada->second.tela;
+  // One that is open below, as when its own lookup led here, is still in use.
+  if (tela && tela->state() != Screen::State::loaded) tela.reset();
 }
 
 }  // namespace fenvale

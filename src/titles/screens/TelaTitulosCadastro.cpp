@@ -123,6 +123,7 @@ void TelaTitulosCadastro::vAposCarregar(const ListItem& item) {
   sValorGuardado_ = celula("ValorTitulo");
   sPagoGuardado_ = celula("Pago");
   dtPagamento.setValue(readDate(celula("Pagamento")).value_or(contexto().relogio().today()));
+  lFatura = -1;  // not that of the title before, should this one be gone from the store
   lFatura = (titulos_.*lado_.lGetCodigoFatura)(txtCodigoInf.text());
 }
 

@@ -141,14 +141,23 @@ TEST_P(TitulosListaTest, ARowWithNothingInItLoadsAsZerosAndTodaysDate) {
 
 TEST_P(TitulosListaTest, ATitleThatIsGoneIsReportedUnderTheNameOfTheClick) {
   criarFatura("90,00");
+  criarFatura("50,00", umaVez);
   TelaTitulosCadastro& tela = titulos();
+  tela.vMontarLista(0, {});
   cenario.executar("DELETE * FROM " + lado.sTitulos + " WHERE lCodigo = 1");
+  tela.lstLista.userClickRow(3);
   host.expectBox(relatoDeFalha(), BoxAnswer::no);
   tela.lstLista.userClickRow(0);
   host.verify();
   EXPECT_EQ(tela.state(), Screen::State::loaded);
   EXPECT_THAT(cenario.programa.pasta().ler("Erros/" + cenario.programa.pasta().nomes("Erros").at(0)),
               testing::HasSubstr("lstLista_itemClick"));
+
+  // What is saved then is not written to the invoice of the title that was shown before.
+  tela.entidades.pessoa.busca.vSet(2, "Bar do Élio");
+  host.expectBox(concluida);
+  tela.userKey(Key::f3);
+  EXPECT_EQ(cenario.valor("SELECT " + lado.sChavePessoa + " FROM " + lado.sFaturas + " WHERE lCodigo = 2"), "1");
 }
 
 TEST_P(TitulosListaTest, NewGoesBackToTheOpenTitles) {
@@ -347,6 +356,25 @@ TEST_P(TitulosReceberTest, TheCustomersTitlesAreReachedFromTheCustomer) {
     tela.userKey(Key::escape);
   });
   dynamic_cast<TelaCadastro&>(clientes).lstLista.userClickRow(0, MouseButton::right);
+}
+
+TEST_P(TitulosReceberTest, TheScreenThatLedToTheCustomerIsNotOpenedOverItself) {
+  criarFatura("90,00");
+  TelaTitulosCadastro& aberta = titulos();
+  host.expectScreen("frmCadastroTitulosReceber", [&](Screen& tela) {
+    aberta.entidades.pessoa.caixa.setFocus();
+    host.expectScreen("frmCadastroClientes", [&](Screen& clientes) {
+      host.expectPopup("mnuPopUp", "mnuVerificarTitulos");
+      host.expectBox(aviso("Esta tela já está aberta."));
+      dynamic_cast<TelaCadastro&>(clientes).lstLista.userClickRow(0, MouseButton::right);
+      clientes.userKey(Key::escape);
+    });
+    tela.userKey(Key::insert);
+    EXPECT_EQ(&titulos(), &aberta);
+    EXPECT_EQ(aberta.focused(), &aberta.entidades.pessoa.caixa);
+    tela.userKey(Key::escape);
+  });
+  host.showModal(aberta);
 }
 
 INSTANTIATE_TEST_SUITE_P(Receber, TitulosReceberTest, testing::Values(&ladoReceber), nomeDoLado);
