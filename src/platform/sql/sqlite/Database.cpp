@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <cerrno>
+#include <cstdio>
 #include <thread>
 #include <utility>
 
@@ -35,6 +36,12 @@ void synchronizeFolderOf(const std::string& path) {
     ::fsync(descriptor);
     ::close(descriptor);
   }
+}
+
+/// Should another program have made the file meanwhile, it stays. A memory stick knows no links, but renames.
+bool giveName(const std::string& draft, const std::string& name) {
+  return ::link(draft.c_str(), name.c_str()) == 0 ||
+         (errno != EEXIST && ::renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0);
 }
 
 }  // namespace
@@ -227,8 +234,7 @@ void createFile(const std::string& path) {
   }
   sqlite3_close_v2(handle);
   ::chmod(draft.c_str(), 0660);  // a store holds passwords: for owner and group only
-  // A link, not a rename: should another program have made the file meanwhile, it stays.
-  const bool made = code == SQLITE_OK && ::link(draft.c_str(), native.c_str()) == 0;
+  const bool made = code == SQLITE_OK && giveName(draft, native);
   const int reason = errno;
   ::unlink(draft.c_str());
   if (made) return synchronizeFolderOf(native);
