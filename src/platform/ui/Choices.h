@@ -145,11 +145,16 @@ class Image final : public Control {
   /// Path of a picture file; empty shows none.
   const std::string& picture() const { return picture_; }
   void setPicture(std::string path);
+  /// Whether the screen is stretched to the picture, as far as the monitor goes; otherwise the picture is scaled down
+  /// to the room there is. To be set before the screen shows.
+  bool stretchesScreen() const { return stretchesScreen_; }
+  void setStretchesScreen() { stretchesScreen_ = true; }
   std::function<void()> onClick;
   void userClick() { raise(onClick); }
 
  private:
   std::string picture_;
+  bool stretchesScreen_ = false;
 };
 
 class ProgressBar final : public Control {

@@ -25,6 +25,8 @@ void vExigirImagem(const std::string& sCaminho) {
 frmExibirImagem::frmExibirImagem(Contexto& contexto) : Tela(contexto, "frmExibirImagem") {
   setCaption("Imagem");
   setLayout({lista(imgImagem, "Imagem")});
+  setPreferredSize(4, 0);
+  imgImagem.setStretchesScreen();
   imgImagem.onClick = [this] { unload(); };
 }
 

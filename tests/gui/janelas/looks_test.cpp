@@ -135,6 +135,43 @@ TEST_F(Janelas, TheSplashHasNoFrameAndNothingCut) {
   EXPECT_EQ(windowOf(abertura), nullptr);
 }
 
+class TelaFigura final : public Screen {
+ public:
+  TelaFigura(UiHost& host, std::string figura) : Screen(host, "TelaFigura", ScreenStyle::dialog) {
+    setLayout({lista(imgFigura, "Figura")});
+    setPreferredSize(4, 0);
+    imgFigura.setStretchesScreen();
+    imgFigura.setPicture(std::move(figura));
+  }
+  Image imgFigura{*this, "imgFigura"};
+};
+
+TEST_F(Janelas, AScreenIsStretchedToItsPictureAsFarAsTheMonitorGoes) {
+  const QTemporaryDir folder;
+  const auto shown = [&](const QSize& size) {
+    const QString path = folder.filePath("figura.png");
+    QImage picture(size, QImage::Format_RGB32);
+    picture.fill(Qt::red);
+    EXPECT_TRUE(picture.save(path));
+    TelaFigura tela(host, path.toStdString());
+    host.show(tela);
+    QCoreApplication::processEvents();
+    const QWidget& window = *windowOf(tela);
+    const QRect monitor = window.screen()->availableGeometry();
+    EXPECT_TRUE(monitor.contains(window.geometry()));
+    EXPECT_LE(std::abs(window.geometry().center().x() - monitor.center().x()), 4);
+    const QWidget& place = *widgetOf(tela.imgFigura);
+    EXPECT_TRUE(window.rect().contains(QRect(place.mapTo(&window, QPoint()), place.size()))) << "nothing is scrolled";
+    const QSize result = place.size();
+    tela.unload();
+    return result;
+  };
+  EXPECT_EQ(shown({500, 400}), QSize(500, 400));
+  const QSize large = shown({5000, 2500});
+  EXPECT_GT(large.width(), 600);
+  EXPECT_NEAR(large.width(), 2 * large.height(), 4);
+}
+
 class Esquemas : public testing::TestWithParam<Scheme> {};
 
 TEST_P(Esquemas, TextReadsWellOnEveryGround) {

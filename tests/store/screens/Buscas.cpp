@@ -256,6 +256,7 @@ TEST_F(Arquivos, ARightClickShowsTheFileAsAPicture) {
     host.expectScreen("frmExibirImagem", [this](Screen& aberta) {
       auto& imagem = dynamic_cast<frmExibirImagem&>(aberta);
       EXPECT_EQ(lugar.arquivo("logo.gif"), imagem.imgImagem.picture());
+      EXPECT_TRUE(imagem.imgImagem.stretchesScreen());
       imagem.imgImagem.userClick();
     });
     tela.lstLista.userClickRow(0, MouseButton::right);

@@ -199,8 +199,9 @@ class PictureLabel final : public QLabel {
  public:
   std::function<void()> clicked;
   QSize sizeHint() const override { return {12 * measures::unit, 8 * measures::unit}; }
-  void showFile(const QString& path) {
+  void showFile(const QString& path, bool whole) {
     picture_ = path.isEmpty() ? QPixmap() : QPixmap(path);
+    if (whole && !picture_.isNull()) setMinimumSize(sizeOnMonitor());
     update();
   }
 
@@ -218,6 +219,14 @@ class PictureLabel final : public QLabel {
   void mouseReleaseEvent(QMouseEvent*) override { clicked(); }
 
  private:
+  QSize sizeOnMonitor() const {
+    const QSize most = screen()->availableGeometry().size() * 0.8;
+    const QSize own = picture_.size();
+    const bool tooLarge = own.width() > most.width() || own.height() > most.height();
+    return (tooLarge ? own.scaled(most, Qt::KeepAspectRatio) : own).expandedTo({smallest, smallest});
+  }
+
+  static constexpr int smallest = 64;
   QPixmap picture_;
 };
 
@@ -230,7 +239,7 @@ class ImageBinding final : public BindingOf<Image, PictureLabel> {
 
  protected:
   void refresh(Aspect aspect) override {
-    if (aspect == Aspect::content) view().showFile(toQt(control().picture()));
+    if (aspect == Aspect::content) view().showFile(toQt(control().picture()), control().stretchesScreen());
   }
 };
 
