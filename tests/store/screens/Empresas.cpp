@@ -321,6 +321,18 @@ TEST_F(Nova, AnOldReferenceThatStaysAsksForAnotherName) {
   EXPECT_EQ(0, programa.dbConectar().Dados().transactionLevel());
 }
 
+TEST_F(Nova, AFileThatCannotBeMadeTakesItsReferenceBack) {
+  programa.pasta().gravar("loja.MDB/x", "x");  // a folder of that name
+  tela([this](frmEmpresaNova& t) {
+    preencher(t, "loja");
+    host.expectBox(aviso("Erro ao criar a empresa."));
+    t.userKey(Key::f3);
+    EXPECT_EQ("loja.MDB", t.txtNomeArquivo.text());
+  });
+  EXPECT_THAT(referencias(), IsEmpty());
+  EXPECT_EQ(0, programa.dbConectar().Dados().transactionLevel());
+}
+
 TEST_F(Nova, FolderTreeAndPathFollowEachOther) {
   programa.pasta().gravar("sub/x", "x");
   tela([this](frmEmpresaNova& t) {
