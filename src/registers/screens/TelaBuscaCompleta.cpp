@@ -82,6 +82,7 @@ void TelaBuscaCompleta::vLocalizar(Screen& chamador) {
 void TelaBuscaCompleta::cmdLocalizar_Click() try {
   if (!contexto().permissoes().bGetPesquisar()) return;
   const BotaoOcupado ocupado(cmdLocalizar);
+  if (chamador_ == nullptr) throw Error(errors::objectNotSet, sGetName() + " foi aberta sem a tela que usa a busca.");
   auto* lista = dynamic_cast<TelaComLista*>(chamador_);
   if (lista == nullptr) throw Error(Telas::operacaoInexistente, chamador_->sGetName() + " não tem lista.");
   lista->vMontarLista(0, sClausula());

@@ -104,6 +104,7 @@ std::string TelaBuscaRapida::sConsulta() const {
 }
 
 void TelaBuscaRapida::vEscolher(std::int32_t lChave) {
+  if (chamador_ == nullptr) throw Error(errors::objectNotSet, sGetName() + " foi aberta sem a tela que usa a busca.");
   const Recordset rs("SELECT * FROM " + descricao_.sTabela + " WHERE lCodigo = " + std::to_string(lChave), conexao(),
                      CursorType::dynamic, LockType::readOnly);
   descricao_.vDevolver(*chamador_, rs);

@@ -74,6 +74,16 @@ TEST_P(BuscaCompleta, WithoutTheRightItDoesNothing) {
   tela.userKey(Key::f6);
 }
 
+TEST_P(BuscaCompleta, WithNobodyToDriveItReportsAFailureAndStays) {
+  host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
+    host.expectBox(relatoDeFalha(), BoxAnswer::no);
+    busca.userKey(Key::f6);
+    EXPECT_EQ(busca.state(), Screen::State::loaded);
+    busca.unload();
+  });
+  host.showModal(programa.telas().obter(GetParam().sBusca));
+}
+
 INSTANTIATE_TEST_SUITE_P(
     Todas, BuscaCompleta,
     testing::Values(CasoCompleta{"frmCadastroCategorias", "frmLocalizarCategorias", "Localizar categoria", "Categorias",
@@ -265,6 +275,20 @@ TEST_P(BuscaRapida, TwoClicksOnTheSameRowPickIt) {
     EXPECT_EQ(busca.state(), Screen::State::unloaded);
   });
   EXPECT_EQ(chamadora.recebido, std::string(caso.sQue) + "|" + std::to_string(lBruno) + "|Bruno");
+}
+
+TEST_P(BuscaRapida, WithNobodyToCallBackItReportsAFailureAndStays) {
+  linha(2, "Ana");
+  host.expectScreen(caso.sBusca, [&](Screen& aberta) {
+    auto& busca = dynamic_cast<TelaBuscaRapida&>(aberta);
+    busca.userKey(Key::f6);
+    host.expectBox(relatoDeFalha(), BoxAnswer::no);
+    busca.lstLista.userClickRow(0);
+    busca.lstLista.userClickRow(0);
+    EXPECT_EQ(busca.state(), Screen::State::loaded);
+    busca.unload();
+  });
+  host.showModal(programa.telas().obter(caso.sBusca));
 }
 
 TEST_P(BuscaRapida, PagesKeepWhatWasTyped) {
