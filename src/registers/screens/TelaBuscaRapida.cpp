@@ -57,6 +57,8 @@ const std::vector<DescricaoBuscaRapida>& buscasRapidas() {
               &ReceptorCliente::vSetCliente),
       porNome("frmLocalizarPortadoresRapido", "Localizar portadores", "Portadores", "btCodigoInf", "sNome", false,
               &ReceptorPortador::vSetPortador),
+      porNome("frmLocalizarFornecedoresRapido", "Localizar fornecedores", "Fornecedores", "lCodigoInf", "sNome", false,
+              &ReceptorFornecedor::vSetFornecedor),
       porNome("frmLocalizarCentroCustoRapido", "Localizar centros de custo", "CentroCusto", "btCodigoInf", "sDescricao",
               true, &ReceptorCentroCusto::vSetCentroCusto),
       {"frmLocalizarCondicoesPagamentoRapido",

@@ -90,7 +90,7 @@ TEST_F(CadastrosEmJanelas, NothingIsCutHiddenOrOutOfReach) {
        {"frmLocalizarCategorias", "frmLocalizarVendedor", "frmLocalizarPortadores", "frmLocalizarCentroCusto",
         "frmLocalizarCondicoesPagamento", "frmLocalizarClientes", "frmLocalizarCategoriasRapido",
         "frmLocalizarVendedoresRapido", "frmLocalizarClientesRapido", "frmLocalizarPortadoresRapido",
-        "frmLocalizarCentroCustoRapido", "frmLocalizarCondicoesPagamentoRapido"}) {
+        "frmLocalizarFornecedoresRapido", "frmLocalizarCentroCustoRapido", "frmLocalizarCondicoesPagamentoRapido"}) {
     whenOpened(host, [&] {
       Screen& busca = programa.telas().obter(sTela);
       EXPECT_THAT(faultsOf(host, busca), IsEmpty()) << sTela;

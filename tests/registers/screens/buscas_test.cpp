@@ -184,6 +184,7 @@ struct Recebedora : Screen,
                     ReceptorVendedor,
                     ReceptorCliente,
                     ReceptorPortador,
+                    ReceptorFornecedor,
                     ReceptorCentroCusto,
                     ReceptorCondicaoPagamento {
   explicit Recebedora(UiHost& host) : Screen(host, "frmRecebedora") {}
@@ -191,6 +192,9 @@ struct Recebedora : Screen,
   void vSetVendedor(std::int32_t lCodigo, const std::string& sNome) override { receber("vendedor", lCodigo, sNome); }
   void vSetCliente(std::int32_t lCodigo, const std::string& sNome) override { receber("cliente", lCodigo, sNome); }
   void vSetPortador(std::int32_t lCodigo, const std::string& sNome) override { receber("portador", lCodigo, sNome); }
+  void vSetFornecedor(std::int32_t lCodigo, const std::string& sNome) override {
+    receber("fornecedor", lCodigo, sNome);
+  }
   void vSetCentroCusto(std::int32_t lCodigo, const std::string& sDescricao) override {
     receber("centro", lCodigo, sDescricao);
   }
@@ -223,7 +227,7 @@ class BuscaRapida : public Cadastros, public testing::WithParamInterface<CasoRap
  protected:
   BuscaRapida() {
     cidade("Campinas", "SP");
-    if (std::string(caso.sTabela) == "Clientes") {
+    if (caso.sOutrasColunas[0] != 0) {  // rows that refer to others
       inserir("Categorias", "btCodigoInf, sNome", "1, 'Varejo'");
       inserir("Vendedores", "lCodigoInf, sNome", "1, 'Maria'");
     }
@@ -342,6 +346,8 @@ INSTANTIATE_TEST_SUITE_P(
                                ", 1, 1, 1, 1, 1"},
                     CasoRapida{"frmLocalizarPortadoresRapido", "Localizar portadores", "Portadores", "btCodigoInf",
                                "sNome", false, "portador", "", ""},
+                    CasoRapida{"frmLocalizarFornecedoresRapido", "Localizar fornecedores", "Fornecedores", "lCodigoInf",
+                               "sNome", false, "fornecedor", ", lCategoria, lCidade, lBanco", ", 1, 1, 1"},
                     CasoRapida{"frmLocalizarCentroCustoRapido", "Localizar centros de custo", "CentroCusto",
                                "btCodigoInf", "sDescricao", true, "centro", "", ""}),
     [](const auto& caso) { return std::string(caso.param.sTabela); });
