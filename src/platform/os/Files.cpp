@@ -111,6 +111,14 @@ mode_t modeFor(const std::string& path) {
   return 0666 & ~mask;
 }
 
+/// The file itself where the path is a link to it.
+std::string realPath(const std::string& path) {
+  std::string target = nativePath(path);
+  std::error_code notThere;
+  if (const fs::path real = fs::canonical(target, notThere); !notThere) target = real.string();
+  return target;
+}
+
 }  // namespace
 
 std::string nativePath(std::string_view path) {
@@ -164,23 +172,49 @@ std::string read(const std::string& path) {
   }
 }
 
-void write(const std::string& path, std::string_view bytes) {
-  std::string target = nativePath(path);
-  std::error_code notThere;
-  if (const fs::path real = fs::canonical(target, notThere); !notThere) target = real.string();
-  std::string partial = target + ".XXXXXX";
-  const mode_t mode = modeFor(target);
-  Descriptor file(::mkostemp(partial.data(), O_CLOEXEC));
-  if (file.number() < 0) fail(errno, "gravar o arquivo", target);
-  const bool written = writeAll(file.number(), bytes) && ::fchmod(file.number(), mode) == 0 &&
-                       ::fsync(file.number()) == 0 && file.close() == 0 &&
-                       ::rename(partial.c_str(), target.c_str()) == 0;
-  if (!written) {
-    const int code = errno;
-    ::unlink(partial.c_str());
-    fail(code, "gravar o arquivo", target);
+/// A file under a name of its own beside the one it will replace.
+struct Writer::Partial {
+  explicit Partial(const std::string& path)
+      : target(realPath(path)),
+        mode(modeFor(target)),
+        name(target + ".XXXXXX"),
+        file(::mkostemp(name.data(), O_CLOEXEC)) {
+    if (file.number() < 0) fail(errno, "gravar o arquivo", target);
   }
-  syncFolder(target);
+  ~Partial() {
+    if (!placed) ::unlink(name.c_str());
+  }
+  Partial(const Partial&) = delete;
+  Partial& operator=(const Partial&) = delete;
+
+  void check(bool done) const {
+    if (!done) fail(errno, "gravar o arquivo", target);
+  }
+  void write(std::string_view bytes) const { check(writeAll(file.number(), bytes)); }
+  void toDisk() const { check(::fsync(file.number()) == 0); }
+  void place() {
+    check(::fchmod(file.number(), mode) == 0 && file.close() == 0 && ::rename(name.c_str(), target.c_str()) == 0);
+    placed = true;
+  }
+
+  std::string target;
+  mode_t mode;
+  std::string name;
+  Descriptor file;
+  bool placed = false;
+};
+
+Writer::Writer(const std::string& path) : partial_(std::make_unique<Partial>(path)) {}
+Writer::~Writer() = default;
+void Writer::write(std::string_view bytes) { partial_->write(bytes); }
+void Writer::close() { partial_->place(); }
+
+void write(const std::string& path, std::string_view bytes) {
+  Writer::Partial partial(path);
+  partial.write(bytes);
+  partial.toDisk();
+  partial.place();
+  syncFolder(partial.target);
 }
 
 void remove(const std::string& path) {

@@ -2,6 +2,7 @@
 // Files and folders. Every path may be written with "\" or "/", and a name that is not there as written is looked for
 // without regard to case; paths that are given back use "/". Failures are Errors with a sentence in Portuguese.
 
+#include <memory>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -26,6 +27,25 @@ std::string read(const std::string& path);
 /// The whole file or nothing of it: written beside the old one, brought to the disk and put in its place, with the old
 /// one's permissions. Error 75 when it cannot be, 61 on a full disk.
 void write(const std::string& path, std::string_view bytes);
+
+/// A file that is written piece by piece, beside the old one until it is whole: without close() nothing of it is left
+/// and the old one stays. The disk gets it in its own time, so it is for what can be made again. Errors as of write().
+class Writer {
+ public:
+  explicit Writer(const std::string& path);
+  ~Writer();
+  Writer(const Writer&) = delete;
+  Writer& operator=(const Writer&) = delete;
+  void write(std::string_view bytes);
+  /// Puts the whole file in its place.
+  void close();
+
+ private:
+  friend void files::write(const std::string& path, std::string_view bytes);
+  struct Partial;
+  std::unique_ptr<Partial> partial_;
+};
+
 /// Nothing happens when it is not there. Error 75.
 void remove(const std::string& path);
 /// Replaces what is at `to`. Error 53, 75.

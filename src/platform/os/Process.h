@@ -1,5 +1,9 @@
 #pragma once
-// The end of the program.
+// The program as the system runs it: its end, and the other programs that it starts for the person.
+
+#include <string>
+
+#include "platform/base/Error.h"
 
 namespace fenvale {
 
@@ -14,6 +18,11 @@ class Process {
   /// Ends the process at once, without unwinding anything: open transactions undo themselves. A test's process throws
   /// ProgramEnded in its place.
   [[noreturn]] virtual void end(int exitCode) = 0;
+  /// Hands a file to the program that the system associates with its kind, and returns at once. Error 53 when none can
+  /// be started.
+  virtual void openFile(const std::string& path) {
+    throw Error(errors::fileNotFound, "Não há programa que abra o arquivo " + path + ".");
+  }
 };
 
 }  // namespace fenvale

@@ -1,7 +1,9 @@
 #include "platform/os/System.h"
 
 #include <arpa/inet.h>
+#include <fcntl.h>
 #include <netdb.h>
+#include <sys/wait.h>
 #include <unistd.h>
 
 #include <array>
@@ -10,6 +12,7 @@
 #include <ctime>
 
 #include "platform/base/Error.h"
+#include "platform/os/Files.h"
 
 namespace fenvale {
 
@@ -28,6 +31,32 @@ DateTime SystemClock::now() const {
 void SystemProcess::end(int exitCode) {
   std::fflush(nullptr);
   ::_exit(exitCode);
+}
+
+void SystemProcess::openFile(const std::string& path) {
+  // All that follows the fork is made beforehand: the child of a process with threads may not allocate.
+  const std::string native = files::nativePath(path);
+  const std::array<const char*, 3> command{"xdg-open", native.c_str(), nullptr};
+  std::array<int, 2> report{};
+  if (::pipe2(report.data(), O_CLOEXEC) != 0) return Process::openFile(native);
+  const pid_t child = ::fork();
+  if (child == 0) {
+    // The grandchild belongs to nobody here: the program neither waits for it nor takes it along when it ends.
+    ::setsid();
+    const pid_t opener = ::fork();
+    if (opener == 0) ::execvp(command[0], const_cast<char* const*>(command.data()));
+    if (opener <= 0) (void)!::write(report[1], "x", 1);
+    ::_exit(0);
+  }
+  ::close(report[1]);
+  // A program that started has closed its end without a word.
+  char word = 0;
+  ssize_t said = 0;
+  do said = ::read(report[0], &word, 1);
+  while (said < 0 && errno == EINTR);
+  ::close(report[0]);
+  if (child > 0) ::waitpid(child, nullptr, 0);
+  if (child < 0 || said != 0) Process::openFile(native);
 }
 
 std::string SystemNetwork::hostName() {

@@ -14,10 +14,11 @@ class SystemClock final : public Clock {
   DateTime now() const override;
 };
 
-/// Ends the process without unwinding or running anything more.
+/// Ends the process without unwinding or running anything more; opens files by the desktop's own choice.
 class SystemProcess final : public Process {
  public:
   [[noreturn]] void end(int exitCode) override;
+  void openFile(const std::string& path) override;
 };
 
 class SystemNetwork final : public Network {

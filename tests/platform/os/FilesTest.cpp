@@ -141,6 +141,32 @@ TEST_F(Files, AWriteThatBreaksOffLeavesTheOldFileAlone) {
   EXPECT_THAT(folder.nomes(), ElementsAre("a.txt"));
 }
 
+TEST_F(Files, AFileThatIsWrittenPieceByPieceComesWholeOrNotAtAll) {
+  folder.gravar("A.txt", "velho");
+  {
+    files::Writer writer(folder.arquivo("a.txt"));
+    writer.write("no");
+    writer.write("vo");
+    EXPECT_EQ(folder.ler("A.txt"), "velho") << "until it is closed";
+    writer.close();
+  }
+  EXPECT_EQ(folder.ler("A.txt"), "novo");
+  {
+    files::Writer writer(folder.arquivo("a.txt"));
+    writer.write("pela metade");
+  }
+  EXPECT_EQ(folder.ler("A.txt"), "novo");
+  EXPECT_THAT(folder.nomes(), ElementsAre("A.txt"));
+  EXPECT_EQ(failure([&] { const files::Writer writer(folder.arquivo("nada/a.txt")); }).number, errors::fileNotFound);
+}
+
+TEST_F(Files, APieceThatDoesNotFitLeavesNothing) {
+  const ShortDisk disk(4096);
+  files::Writer writer(folder.arquivo("a.txt"));
+  EXPECT_EQ(failure([&] { writer.write(std::string(100000, 'x')); }).number, errors::fileAccess);
+  EXPECT_FALSE(folder.existe("a.txt"));
+}
+
 TEST_F(Files, FoldersAreMadeWithThoseAboveThem) {
   files::createFolder(folder.caminho() + "\\a\\b");
   EXPECT_TRUE(fs::is_directory(folder.arquivo("a/b")));

@@ -1,6 +1,7 @@
 #include "platform/os/System.h"
 
 #include <gtest/gtest.h>
+#include <sys/stat.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -34,6 +35,47 @@ TEST(SystemClock, TellsTheLocalWallClock) {
 
 TEST(SystemProcess, EndsAtOnceWithTheExitCode) {
   EXPECT_EXIT(SystemProcess().end(exitRestart), testing::ExitedWithCode(75), "");
+}
+
+/// The programs that are found by name, as long as it lives.
+class ProgramFolder {
+ public:
+  explicit ProgramFolder(const std::string& folder) : before_(std::getenv("PATH")) {
+    ::setenv("PATH", folder.c_str(), 1);
+  }
+  ~ProgramFolder() { ::setenv("PATH", before_.c_str(), 1); }
+  ProgramFolder(const ProgramFolder&) = delete;
+  ProgramFolder& operator=(const ProgramFolder&) = delete;
+
+ private:
+  std::string before_;
+};
+
+TEST(SystemProcess, HandsAFileToTheDesktopsOwnProgram) {
+  const PastaTemporaria folder;
+  const std::string answer = folder.arquivo("resposta");
+  ASSERT_EQ(::mkfifo(answer.c_str(), 0600), 0);
+  folder.gravar("xdg-open", "#!/bin/sh\nprintf '%s|%s' \"$#\" \"$1\" > '" + answer + "'\n");
+  std::filesystem::permissions(folder.arquivo("xdg-open"), std::filesystem::perms::owner_all);
+  folder.gravar("Relatório 1.txt", "x");
+  {
+    const ProgramFolder programs(folder.caminho());
+    SystemProcess().openFile(folder.caminho() + "\\relatório 1.TXT");
+  }
+  EXPECT_EQ(folder.ler("resposta"), "1|" + folder.arquivo("Relatório 1.txt")) << "read from the pipe";
+  EXPECT_EQ(::waitpid(-1, nullptr, WNOHANG), -1) << "no child is left behind";
+}
+
+TEST(SystemProcess, SaysThatNoProgramOpensAFile) {
+  const PastaTemporaria empty;
+  const ProgramFolder programs(empty.caminho());
+  try {
+    SystemProcess().openFile("/a/b.txt");
+    FAIL() << "no Error";
+  } catch (const Error& failure) {
+    EXPECT_EQ(failure.number, errors::fileNotFound);
+    EXPECT_EQ(failure.description, "Não há programa que abra o arquivo /a/b.txt.");
+  }
 }
 
 TEST(SystemNetwork, KnowsThisMachine) {
