@@ -2,8 +2,12 @@
 // Stand-ins of the platform's services: a clock that stands still, a process that throws instead of ending, a mailer, a
 // network and printers that answer as they are told.
 
+#include <algorithm>
+#include <memory>
 #include <optional>
 #include <string>
+#include <string_view>
+#include <utility>
 #include <vector>
 
 #include "platform/base/Date.h"
@@ -67,10 +71,50 @@ class RedeDeTeste final : public Network {
   int paradas = 0;
 };
 
+/// What a queue was given: `terminado` once it is to be printed, `desistido` when it was given up.
+struct TrabalhoDeTeste {
+  std::string fila;
+  std::string titulo;
+  std::string bytes;
+  bool terminado = false;
+  bool desistido = false;
+};
+
 class ImpressorasDeTeste final : public PrinterService {
  public:
   std::vector<std::string> printers() override { return nomes; }
+  std::string defaultPrinter() override { return padrao; }
+  /// Any name but those of `nomes` is a queue that the machine does not have.
+  std::unique_ptr<RawJob> openRaw(const std::string& queue, const std::string& title) override {
+    if (queue == pdfPrinterName || std::find(nomes.begin(), nomes.end(), queue) == nomes.end())
+      return PrinterService::openRaw(queue, title);
+    trabalhos.push_back(std::make_shared<TrabalhoDeTeste>(TrabalhoDeTeste{queue, title, {}}));
+    return std::make_unique<Trabalho>(trabalhos.back(), limite);
+  }
   std::vector<std::string> nomes = {"Laser do balcão", pdfPrinterName};
+  std::string padrao;                      ///< empty: the machine has none
+  std::size_t limite = std::string::npos;  ///< bytes that a queue takes before it fails
+  std::vector<std::shared_ptr<TrabalhoDeTeste>> trabalhos;
+
+ private:
+  class Trabalho final : public RawJob {
+   public:
+    Trabalho(std::shared_ptr<TrabalhoDeTeste> destino, std::size_t cabem)
+        : destino_(std::move(destino)), cabem_(cabem) {}
+    ~Trabalho() override { destino_->desistido = !destino_->terminado; }
+    Trabalho(const Trabalho&) = delete;
+    Trabalho& operator=(const Trabalho&) = delete;
+    void write(std::string_view bytes) override {
+      if (destino_->bytes.size() + bytes.size() > cabem_)
+        throw Error(errors::fileAccess, "A impressora " + destino_->fila + " parou.");
+      destino_->bytes += bytes;
+    }
+    void finish() override { destino_->terminado = true; }
+
+   private:
+    std::shared_ptr<TrabalhoDeTeste> destino_;
+    std::size_t cabem_;
+  };
 };
 
 }  // namespace fenvale

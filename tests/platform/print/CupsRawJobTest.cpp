@@ -1,0 +1,235 @@
+// Raw jobs on queues of a print server of our own, whose printer is a port of this machine.
+#include "platform/print/cups/CupsRawJob.h"
+
+#include <arpa/inet.h>
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+#include <netinet/in.h>
+#include <sys/resource.h>
+
+#include <condition_variable>
+#include <mutex>
+
+#include "platform/print/PrintServer.h"
+#include "platform/print/cups/CupsPrinters.h"
+
+namespace fenvale {
+namespace {
+
+using testing::ElementsAre;
+using testing::IsEmpty;
+
+/// A printer at the network's end: keeps what every connection sends, up to its end.
+class NetworkPrinter {
+ public:
+  NetworkPrinter() : listener_(::socket(AF_INET, SOCK_STREAM, 0)) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    if (::bind(listener_, reinterpret_cast<const sockaddr*>(&address), size) != 0 || ::listen(listener_, 8) != 0 ||
+        ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size) != 0)
+      throw std::runtime_error("no port for the printer");
+    port_ = ntohs(address.sin_port);
+    thread_ = std::thread([this] { receive(); });
+  }
+  ~NetworkPrinter() {
+    ::shutdown(listener_, SHUT_RDWR);
+    thread_.join();
+    ::close(listener_);
+  }
+  NetworkPrinter(const NetworkPrinter&) = delete;
+  NetworkPrinter& operator=(const NetworkPrinter&) = delete;
+
+  std::string address() const { return "socket://127.0.0.1:" + std::to_string(port_) + "/"; }
+
+  /// The first `count` prints, as soon as they are whole.
+  std::vector<std::string> prints(std::size_t count) {
+    std::unique_lock lock(mutex_);
+    arrived_.wait_for(lock, std::chrono::seconds(20), [&] { return prints_.size() >= count; });
+    return prints_;
+  }
+
+ private:
+  void receive() {
+    for (;;) {
+      const int connection = ::accept(listener_, nullptr, nullptr);
+      if (connection < 0) return;
+      std::string bytes;
+      std::string block(65536, '\0');
+      for (ssize_t read = 0; (read = ::read(connection, block.data(), block.size())) > 0;)
+        bytes.append(block, 0, static_cast<std::size_t>(read));
+      ::close(connection);
+      const std::lock_guard lock(mutex_);
+      prints_.push_back(std::move(bytes));
+      arrived_.notify_all();
+    }
+  }
+
+  int listener_;
+  std::uint16_t port_ = 0;
+  std::mutex mutex_;
+  std::condition_variable arrived_;
+  std::vector<std::string> prints_;
+  std::thread thread_;
+};
+
+std::string queueAt(const std::string& name, const std::string& address, const std::string& accepting = "Yes") {
+  return "<Printer " + name + ">\nDeviceURI " + address + "\nState Idle\nAccepting " + accepting +
+         "\nShared No\n</Printer>\n";
+}
+
+/// "name: title" of every job that the server knows, done or not.
+std::vector<std::string> jobs() {
+  cups_job_t* list = nullptr;
+  const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &list, nullptr, 0, CUPS_WHICHJOBS_ALL);
+  std::vector<std::string> result;
+  for (int i = 0; i < count; ++i) result.push_back(std::string(list[i].dest) + ": " + list[i].title);
+  cupsFreeJobs(count, list);
+  return result;
+}
+
+/// Every byte there is, in an order that no filter would leave alone.
+std::string everyByte(std::size_t count) {
+  std::string bytes;
+  for (std::size_t i = 0; i < count; ++i) bytes += static_cast<char>((i * 7 + i / 256) % 256);
+  return bytes;
+}
+
+/// "number: description" of the failure that `action` ends with.
+std::string failureOf(const std::function<void()>& action) {
+  try {
+    action();
+    return "nenhuma";
+  } catch (const Error& failure) {
+    return std::to_string(failure.number) + ": " + failure.description;
+  }
+}
+
+TEST(RawJobs, TheBytesThatWereWrittenArriveAsTheyAre) {
+  NetworkPrinter printer;
+  const PrintServer server(queueAt("Matricial", printer.address()));
+  const std::string bytes = "\x0F+--+\r\n|\xC9 %!PS|\r\n\f\x12" + everyByte(300000);
+  std::vector<std::string> listed;
+  server.serve([&] {
+    const auto job = CupsPrinters().openRaw("Matricial", "Cadastro de clientes");
+    job->write("");
+    for (std::size_t place = 0; place < bytes.size(); place += 1000)
+      job->write(std::string_view(bytes).substr(place, 1000));
+    job->finish();
+    listed = jobs();
+  });
+  EXPECT_TRUE(printer.prints(1) == std::vector{bytes});
+  EXPECT_THAT(listed, ElementsAre("Matricial: Cadastro de clientes"));
+}
+
+TEST(RawJobs, AJobThatIsNotFinishedIsTakenBackAndPrintsNothing) {
+  NetworkPrinter printer;
+  const PrintServer server(queueAt("Matricial", printer.address()));
+  std::vector<std::string> listed;
+  server.serve([&] {
+    CupsPrinters printers;
+    printers.openRaw("Matricial", "desistido")->write(everyByte(100000));
+    listed = jobs();
+    const auto job = printers.openRaw("Matricial", "segundo");
+    job->write("depois");
+    job->finish();
+  });
+  EXPECT_THAT(listed, IsEmpty());
+  EXPECT_THAT(printer.prints(1), ElementsAre("depois"));
+}
+
+TEST(RawJobs, AJobWithoutAByteIsNoJob) {
+  const PrintServer server(queueAt("Matricial", "socket://127.0.0.1:9"));
+  std::vector<std::string> listed;
+  server.serve([&] {
+    CupsPrinters().openRaw("Matricial", "vazio")->finish();
+    listed = jobs();
+  });
+  EXPECT_THAT(listed, IsEmpty());
+}
+
+TEST(RawJobs, AFinishedJobTakesNothingMore) {
+  NetworkPrinter printer;
+  const PrintServer server(queueAt("Matricial", printer.address()));
+  server.serve([&] {
+    const auto job = CupsPrinters().openRaw("Matricial", "x");
+    job->write("tudo");
+    job->finish();
+    const std::string ended =
+        "75: Não foi possível enviar dados para a impressora Matricial: o trabalho foi encerrado.";
+    EXPECT_EQ(failureOf([&] { job->write("mais"); }), ended);
+    EXPECT_EQ(failureOf([&] { job->finish(); }), ended);
+  });
+  EXPECT_THAT(printer.prints(1), ElementsAre("tudo"));
+}
+
+TEST(RawJobs, WhatCannotBeOpenedTellsWhy) {
+  const PrintServer server(queueAt("Parada", "socket://127.0.0.1:9", "No"));
+  server.serve([] {
+    CupsPrinters printers;
+    EXPECT_EQ(failureOf([&] { printers.openRaw("Nenhuma", "x"); }),
+              "75: Não foi possível abrir a impressora Nenhuma: a impressora não existe.");
+    EXPECT_EQ(failureOf([&] { printers.openRaw(pdfPrinterName, "x"); }),
+              "75: Não foi possível abrir a impressora Arquivo PDF: a impressora não existe.");
+    EXPECT_EQ(failureOf([&] { printers.openRaw("Parada", "x"); }),
+              "75: Não foi possível abrir a impressora Parada: a impressora não está aceitando trabalhos.");
+  });
+}
+
+TEST(RawJobs, WithoutAPrintServerNothingOpens) {
+  const PastaTemporaria folder;
+  PrintServer::serve(folder.arquivo("nada.sock"), [] {
+    EXPECT_EQ(failureOf([] { CupsPrinters().openRaw("Matricial", "x"); }),
+              "75: Não foi possível abrir a impressora Matricial: o serviço de impressão não responde.");
+  });
+}
+
+TEST(RawJobs, AServerThatDiesInTheMiddleOfAJobIsAFailure) {
+  PrintServer server(queueAt("Matricial", "socket://127.0.0.1:9"));
+  server.serve([&] {
+    const auto job = CupsPrinters().openRaw("Matricial", "x");
+    job->write(everyByte(1000));
+    server.stop();
+    EXPECT_THAT(failureOf([&] {
+                  job->write(everyByte(10000000));
+                  job->finish();
+                }),
+                testing::StartsWith("75: Não foi possível enviar dados para a impressora Matricial: "));
+  });
+}
+
+TEST(RawJobs, NothingIsGatheredOnTheWay) {
+  NetworkPrinter printer;
+  const PrintServer server(queueAt("Matricial", "socket://127.0.0.1:9"));
+  server.serve([] {
+    const auto peak = [] {
+      rusage usage{};
+      ::getrusage(RUSAGE_SELF, &usage);
+      return usage.ru_maxrss;
+    };
+    const std::string block = everyByte(100000);
+    const auto job = CupsPrinters().openRaw("Matricial", "x");
+    job->write(block);
+    const long before = peak();
+    for (int i = 0; i < 400; ++i) job->write(block);
+    EXPECT_LT(peak() - before, 4000);
+  });
+}
+
+TEST(RawJobs, TheMachinesDefaultQueue) {
+  const PrintServer server(queueAt("Laser", "file:///dev/null") +
+                           "<DefaultPrinter Matricial>\nDeviceURI file:///dev/null\nState Idle\nAccepting Yes\n"
+                           "Shared No\n</Printer>\n");
+  server.serve([] { EXPECT_EQ(CupsPrinters().defaultPrinter(), "Matricial"); });
+}
+
+TEST(RawJobs, AMachineMayHaveNoDefaultQueue) {
+  const PrintServer server(queueAt("Laser", "file:///dev/null"));
+  server.serve([] { EXPECT_EQ(CupsPrinters().defaultPrinter(), ""); });
+  const PastaTemporaria folder;
+  PrintServer::serve(folder.arquivo("nada.sock"), [] { EXPECT_EQ(CupsPrinters().defaultPrinter(), ""); });
+}
+
+}  // namespace
+}  // namespace fenvale
