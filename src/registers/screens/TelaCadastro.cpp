@@ -134,6 +134,11 @@ bool TelaCadastro::bVerificarDados() {
   return true;
 }
 
+bool TelaCadastro::bVerificarRepetido(TextControl& caixa, const std::string& sCampo, const std::string& sMensagem) {
+  if (!Sistema(contexto()).bExisteCampo(caixa.text(), descricao_.sTabela, sCampo, lCodigo)) return true;
+  return recusar(sMensagem, caixa);
+}
+
 bool TelaCadastro::bGravar() {
   vExecutar(lCodigo >= 0 ? sAlteracao() : sInclusao());
   return true;
@@ -187,6 +192,8 @@ void TelaCadastro::vCarregarLinha(const ListItem& item) {
   lCodigo = lCodigoDaChave(item.key());
   for (std::size_t i = 0; i < colunas().size(); ++i)
     colunas()[i].destino.vCarregar(i == 0 ? item.text() : item.subItem(i), dtHoje);
+  // The list tells a city by name and state; its key is looked up.
+  for (CampoCidade* cidade : descricao_.cidades) cidade->vSetEstado2(cidade->txtCidade.text(), cidade->txtUF.text());
   vAposCarregar(item);
   contexto().configuracoes().vSetClickAnterior(lCodigo);
   setNote("Editando o registro " + item.text());

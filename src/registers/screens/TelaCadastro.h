@@ -47,7 +47,7 @@ struct DescricaoCadastro {
   std::string sBusca{};     ///< full search that Localizar opens; the button is disabled while there is no such screen
   std::int16_t iColunasImpressao = 80;
   std::vector<CampoBusca*> buscas{};                ///< emptied for a new record
-  std::vector<CampoCidade*> cidades{};              ///< emptied for a new record
+  std::vector<CampoCidade*> cidades{};              ///< emptied for a new record, looked up when a row is loaded
   std::optional<MenuTitulos::Descricao> titulos{};  ///< the pop-up menu of a right click
 };
 
@@ -93,6 +93,8 @@ class TelaCadastro : public TelaPaginada, public virtual TelaComLista {
   virtual void vAposNovo() {}
   /// Whether the form can be stored; it has told the user why not.
   virtual bool bVerificarDados();
+  /// False, told to the user, when another row has the box's text in that column.
+  bool bVerificarRepetido(TextControl& caixa, const std::string& sCampo, const std::string& sMensagem);
   /// Writes the record. False stops the command without a word.
   virtual bool bGravar();
   /// After "Operação concluída.".
@@ -105,7 +107,7 @@ class TelaCadastro : public TelaPaginada, public virtual TelaComLista {
   virtual void vDesfazer() {}
   /// What the box says when the store refused a save or a removal.
   virtual std::string sRecusa(const std::string& sFrase, const Error& falha) const;
-  /// After the cells of a row were copied into the boxes, in the order of the columns.
+  /// After the cells of a row were copied into the boxes, in the order of the columns, and the cities looked up.
   virtual void vAposCarregar(const ListItem&) {}
 
   /// Loads a record from a row with this screen's columns, whichever list it stands in.

@@ -120,16 +120,6 @@ void frmCadastroClientes::vMontarFormulario() {
   setPreferredSize(24, 36);
 }
 
-void frmCadastroClientes::vAposCarregar(const ListItem&) {
-  for (CampoCidade* local : {&cidade, &cidadeEntrega, &cidadeCobranca})
-    local->vSetEstado2(local->txtCidade.text(), local->txtUF.text());
-}
-
-bool frmCadastroClientes::bVerificarRepetido(TextControl& caixa, const char* sCampo, const char* sMensagem) {
-  if (!Sistema(contexto()).bExisteCampo(caixa.text(), "Clientes", sCampo, lCodigo)) return true;
-  return recusar(sMensagem, caixa);
-}
-
 bool frmCadastroClientes::bVerificarDados() {
   Sistema sistema(contexto());
   if (txtCodigoInf.empty()) return recusar("Informe o código.", txtCodigoInf);

@@ -17,12 +17,9 @@ class frmCadastroClientes final : public TelaCadastro, public FormularioCliente 
 
  protected:
   bool bVerificarDados() override;
-  void vAposCarregar(const ListItem& item) override;
 
  private:
   void vMontarFormulario();
-  /// False, told to the user, when another customer has the box's text.
-  bool bVerificarRepetido(TextControl& caixa, const char* sCampo, const char* sMensagem);
 };
 
 }  // namespace fenvale

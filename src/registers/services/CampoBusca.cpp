@@ -3,6 +3,7 @@
 #include "platform/ui/Boxes.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/UiHost.h"
+#include "registers/services/TeclasDeBusca.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Funcoes.h"
 #include "shell/services/TelaComLista.h"
@@ -23,7 +24,7 @@ CampoBusca::CampoBusca(Screen& tela, Contexto& contexto, std::vector<Control*> c
     if (descricao_.proximo != nullptr) descricao_.proximo->setFocus();
   };
   for (Control* caixa : caixas_) caixa->onKeyDown = [this, caixa](Key tecla) { return bTecla(*caixa, tecla); };
-  if (caixas_.front()->kind() == ControlKind::lookupBox) caixas_.front()->setToolTip("Espaço localiza · Delete limpa");
+  if (caixas_.front()->kind() == ControlKind::lookupBox) caixas_.front()->setToolTip(sDicaBusca);
 }
 
 void CampoBusca::vSetCadastro(std::string sTela, const std::string& sRotulo, Button& botao) {
@@ -33,7 +34,7 @@ void CampoBusca::vSetCadastro(std::string sTela, const std::string& sRotulo, But
   botao.setToolTip(sRotulo);
   botao.setEnabled(contexto_.telas().bExiste(sCadastro_));
   botao.onClick = [this] { vCadastrar(*caixas_.front()); };
-  caixas_.front()->setToolTip("Espaço localiza · Insert cadastra · Delete limpa");
+  caixas_.front()->setToolTip(sDicaBuscaECadastro);
 }
 
 void CampoBusca::vSet(std::int32_t lChave, const std::string& sTexto) {
@@ -54,20 +55,13 @@ void CampoBusca::vCadastrar(Control& caixa) {
 }
 
 bool CampoBusca::bTecla(Control& caixa, Key tecla) {
-  switch (tecla) {
-    case Key::space:
-      cmdBuscar.userClick();
-      return true;
-    case Key::insert:
-      if (cmdCadastro_ != nullptr && cmdCadastro_->enabled()) vCadastrar(caixa);
-      return true;
-    case Key::del:
-      vLimpar();
-      caixa.setFocus();
-      return true;
-    default:
-      return false;
-  }
+  return bTeclaDeBusca(caixa, tecla,
+                       {.localizar = [this] { cmdBuscar.userClick(); },
+                        .limpar = [this] { vLimpar(); },
+                        .cadastrar =
+                            [this, &caixa] {
+                              if (cmdCadastro_ != nullptr && cmdCadastro_->enabled()) vCadastrar(caixa);
+                            }});
 }
 
 LayoutNode CampoBusca::campoPrincipal(const std::string& sRotulo, int largura) {

@@ -1,6 +1,7 @@
 #include "registers/services/CampoCidade.h"
 
 #include "platform/ui/Screen.h"
+#include "registers/services/TeclasDeBusca.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Telas.h"
 #include "shell/services/TelasDeApoio.h"
@@ -12,7 +13,7 @@ std::unique_ptr<TextControl> caixa(Screen& tela, const std::string& sNome, Campo
                                    std::size_t comprimento) {
   if (modo == CampoCidade::Modo::digitado) return std::make_unique<TextBox>(tela, sNome, comprimento);
   auto busca = std::make_unique<LookupBox>(tela, sNome);
-  busca->setToolTip("Espaço localiza · Delete limpa");
+  busca->setToolTip(sDicaBusca);
   return busca;
 }
 
@@ -68,18 +69,13 @@ void CampoCidade::vBuscar() {
 }
 
 bool CampoCidade::bTecla(TextControl& controle, Key tecla) {
-  switch (tecla) {
-    case Key::space:
-      vBuscar();
-      if (aposBusca) aposBusca();
-      return true;
-    case Key::del:
-      vLimpar();
-      controle.setFocus();
-      return true;
-    default:
-      return false;
-  }
+  return bTeclaDeBusca(controle, tecla,
+                       {.localizar =
+                            [this] {
+                              vBuscar();
+                              if (aposBusca) aposBusca();
+                            },
+                        .limpar = [this] { vLimpar(); }});
 }
 
 void CampoCidade::vProcurarPar() {
