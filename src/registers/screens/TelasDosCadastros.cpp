@@ -5,9 +5,11 @@
 #include "registers/screens/TelaBuscaRapida.h"
 #include "registers/screens/frmCadastroClientes.h"
 #include "registers/screens/frmCadastroCondicoesPagamento.h"
+#include "registers/screens/frmCadastroFornecedores.h"
 #include "registers/screens/frmLocalizarBancos.h"
 #include "registers/screens/frmLocalizarClientes.h"
 #include "registers/screens/frmLocalizarCondicoesPagamento.h"
+#include "registers/screens/frmLocalizarFornecedores.h"
 #include "shell/services/Telas.h"
 
 namespace fenvale {
@@ -28,10 +30,12 @@ void vRegistrarTelasDosCadastros(Telas& telas) {
   vRegistrarDescritas<CadastroCodigoNome>(telas, cadastrosCodigoNome());
   telas.registrar<frmCadastroClientes>("frmCadastroClientes");
   telas.registrar<frmCadastroCondicoesPagamento>("frmCadastroCondicoesPagamento");
+  telas.registrar<frmCadastroFornecedores>("frmCadastroFornecedores");
 
   vRegistrarDescritas<BuscaCodigoNome>(telas, buscasCodigoNome());
   telas.registrar<frmLocalizarClientes>("frmLocalizarClientes");
   telas.registrar<frmLocalizarCondicoesPagamento>("frmLocalizarCondicoesPagamento");
+  telas.registrar<frmLocalizarFornecedores>("frmLocalizarFornecedores");
   telas.registrar<frmLocalizarBancos>("frmLocalizarBancos");
   vRegistrarDescritas<TelaBuscaRapida>(telas, buscasRapidas());
 }

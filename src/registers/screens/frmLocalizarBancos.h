@@ -2,20 +2,18 @@
 // The list of banks, which are seed data: looked at, picked from, printed.
 
 #include "registers/screens/TelaEscolha.h"
+#include "shell/services/TelasDeApoio.h"
 
 namespace fenvale {
 
-class Banco;
-
-class frmLocalizarBancos final : public TelaEscolha {
+class frmLocalizarBancos final : public TelaEscolha, public BuscaBanco {
  public:
   explicit frmLocalizarBancos(Contexto& contexto);
 
   TextBox txtNome{*this, "txtNome", 50};
   Button cmdEmitir{*this, "cmdEmitir", "Imprimir", "imprimir", Key::f5};
 
-  /// Shows itself; a picked bank goes into `banco` and its name into the caller's box.
-  void vLocalizarBanco(Screen& chamador, Banco& banco, TextControl& txtNomeDestino);
+  void vLocalizarBanco(Screen& chamador, Banco& banco, TextControl& txtNomeDestino) override;
   std::string sConsulta() const override;
 
  protected:

@@ -1,14 +1,17 @@
 #pragma once
 // The interfaces by which screens and services of any folder reach the small screens that help the others: the waiting
-// screen, the file finder, the picture viewer, the city search and the options of list printing.
+// screen, the file finder, the picture viewer, the searches of cities and banks and the options of list printing.
 
 #include <cstdint>
 #include <string>
 
 namespace fenvale {
 
+class Banco;
 class Cidade;
 class ListView;
+class Screen;
+class TextControl;
 
 /// The waiting screen while the cities are being seeded ("frmMensagem").
 class TelaMensagem {
@@ -45,6 +48,14 @@ class BuscaCidade {
   virtual void vCarregar(bool bEmpresa) = 0;
   /// What was picked; its key is -1 when nothing was.
   virtual const Cidade& cidade() const = 0;
+};
+
+/// The list of banks ("frmLocalizarBancos").
+class BuscaBanco {
+ public:
+  virtual ~BuscaBanco() = default;
+  /// A picked bank goes into `banco` and its name into the caller's box. Returns when the screen is gone.
+  virtual void vLocalizarBanco(Screen& chamador, Banco& banco, TextControl& txtNomeDestino) = 0;
 };
 
 /// The options of list printing ("frmOpcoesRelList").

@@ -5,14 +5,18 @@
 
 #include <QtWidgets>
 
+#include "access/services/Permissoes.h"
 #include "app/Registro.h"
 #include "gui/support/LookChecks.h"
+#include "platform/base/Error.h"
 #include "platform/sql/Store.h"
 #include "platform/ui/Boxes.h"
+#include "platform/ui/Menu.h"
 #include "platform/ui/qt/Probe.h"
 #include "platform/ui/qt/QtHost.h"
 #include "registers/screens/TelaCadastro.h"
 #include "registers/screens/frmCadastroClientes.h"
+#include "registers/screens/frmCadastroFornecedores.h"
 #include "shell/services/Telas.h"
 #include "store/services/ConfiguracoesPrograma.h"
 #include "store/services/DBConectar.h"
@@ -22,6 +26,7 @@
 namespace fenvale::qt {
 namespace {
 
+using testing::ElementsAre;
 using testing::IsEmpty;
 
 HostOptions opcoes() {
@@ -70,6 +75,25 @@ class CadastrosEmJanelas : public testing::Test, protected AmbienteDeTeste {
     host.throwKept();
   }
 
+  /// Tab until the control has the keyboard.
+  void irPara(Control& controle) {
+    for (int vez = 0; vez < 40 && !controle.hasFocus(); ++vez) tecla(Qt::Key_Tab);
+    EXPECT_TRUE(controle.hasFocus()) << controle.name();
+  }
+  /// Space in the control opens a search, in which the row that begins so is picked by that many spaces.
+  void escolher(Control& controle, std::string_view sInicio, int iEspacos) {
+    irPara(controle);
+    whenOpened(host, [&] {
+      Screen& busca = *host.activeScreen();
+      irPara(*busca.control("txtNome"));
+      escrever(sInicio);
+      tecla(Qt::Key_F6);
+      irPara(*busca.control("lstLista"));
+      for (int i = 0; i < iEspacos; ++i) tecla(Qt::Key_Space);
+    });
+    tecla(Qt::Key_Space);
+  }
+
   ProgramaDeTeste moldes;
   QtHost host{opcoes()};
   Programa programa{{moldes.pasta().caminho(), host, relogioDoTeste, processoDoTeste, correioDoTeste, redeDoTeste,
@@ -80,7 +104,7 @@ class CadastrosEmJanelas : public testing::Test, protected AmbienteDeTeste {
 TEST_F(CadastrosEmJanelas, NothingIsCutHiddenOrOutOfReach) {
   for (const char* sTela :
        {"frmCadastroCategorias", "frmCadastroVendedores", "frmCadastroPortadores", "frmCadastroCentroCusto",
-        "frmCadastroCondicoesPagamento", "frmCadastroClientes", "frmLocalizarBancos"}) {
+        "frmCadastroCondicoesPagamento", "frmCadastroClientes", "frmCadastroFornecedores", "frmLocalizarBancos"}) {
     Screen& tela = abrir(sTela);
     EXPECT_THAT(faultsOf(host, tela), IsEmpty()) << sTela;
     tela.unload();
@@ -88,9 +112,10 @@ TEST_F(CadastrosEmJanelas, NothingIsCutHiddenOrOutOfReach) {
   Chamadora chamadora(host);
   for (const char* sTela :
        {"frmLocalizarCategorias", "frmLocalizarVendedor", "frmLocalizarPortadores", "frmLocalizarCentroCusto",
-        "frmLocalizarCondicoesPagamento", "frmLocalizarClientes", "frmLocalizarCategoriasRapido",
-        "frmLocalizarVendedoresRapido", "frmLocalizarClientesRapido", "frmLocalizarPortadoresRapido",
-        "frmLocalizarFornecedoresRapido", "frmLocalizarCentroCustoRapido", "frmLocalizarCondicoesPagamentoRapido"}) {
+        "frmLocalizarCondicoesPagamento", "frmLocalizarClientes", "frmLocalizarFornecedores",
+        "frmLocalizarCategoriasRapido", "frmLocalizarVendedoresRapido", "frmLocalizarClientesRapido",
+        "frmLocalizarPortadoresRapido", "frmLocalizarFornecedoresRapido", "frmLocalizarCentroCustoRapido",
+        "frmLocalizarCondicoesPagamentoRapido"}) {
     whenOpened(host, [&] {
       Screen& busca = programa.telas().obter(sTela);
       EXPECT_THAT(faultsOf(host, busca), IsEmpty()) << sTela;
@@ -141,6 +166,69 @@ TEST_F(CadastrosEmJanelas, ACategoryIsPickedByKeys) {
   EXPECT_EQ(tela.txtCategoria.text(), "Varejo");
   EXPECT_TRUE(tela.txtNome.hasFocus());
   tela.unload();
+}
+
+TEST_F(CadastrosEmJanelas, ASupplierIsTypedPickedAndStoredByKeysAlone) {
+  auto& tela = dynamic_cast<frmCadastroFornecedores&>(abrir("frmCadastroFornecedores"));
+  ASSERT_TRUE(tela.txtCodigoInf.hasFocus());
+  escrever("41");
+  escolher(tela.txtCategoria, "ata", 2);
+  ASSERT_TRUE(tela.txtNome.hasFocus());
+  escrever("Frigorífico Aurora");
+  tecla(Qt::Key_Return);
+  ASSERT_TRUE(tela.txtEndereco.hasFocus()) << "Enter goes on";
+  escrever("Rodovia SP-304, km 10");
+  escolher(tela.cidade.txtCidade, "Londr", 1);
+  EXPECT_EQ(tela.cidade.txtUF.text(), "PR");
+  irPara(tela.txtCEP);
+  escrever("86010370");
+  irPara(tela.txtCNPJ);
+  escrever("11444777000161");
+  escolher(tela.banco.txtBanco, "Caixa", 2);
+  ASSERT_TRUE(tela.txtAgencia.hasFocus()) << "a picked bank leads on to its branch";
+  escrever("0296-8");
+  tecla(Qt::Key_Return);
+  ASSERT_TRUE(tela.txtConta.hasFocus());
+  escrever("103.456-7");
+  whenOpened(host, [&] { press(host, Qt::Key_Return); });
+  tecla(Qt::Key_F3);
+  ASSERT_EQ(tela.lstLista.items().size(), 1u);
+  std::vector<std::string> celulas;
+  for (std::size_t i = 1; i <= tela.lstLista.item(0)->subItemCount(); ++i)
+    celulas.push_back(tela.lstLista.item(0)->subItem(i));
+  EXPECT_THAT(celulas, ElementsAre("1", "1", "Frigorífico Aurora", "Rodovia SP-304, km 10", "Londrina", "PR",
+                                   "86010-370", "", "", "", "", "", "11.444.777/0001-61", "", "",
+                                   "Caixa Econômica Federal", "0296-8", "103.456-7", ""));
+  EXPECT_EQ(tela.txtCodigoInf.text(), "42");
+  tecla(Qt::Key_Escape);
+  EXPECT_EQ(tela.state(), Screen::State::unloaded);
+}
+
+TEST_F(CadastrosEmJanelas, MenuAndToolbarLeadToTheSuppliers) {
+  programa.permissoes().vSetPermissoes(0);
+  Screen& janela = abrir("frmMDIPrincipal");
+  auto& mnuPrincipal = dynamic_cast<Menu&>(*janela.control("mnuPrincipal"));
+  EXPECT_TRUE(mnuPrincipal.reachable("mnuCadFornecedores"));
+  std::string sAberta;
+  for (const bool bBarra : {false, true}) {
+    sAberta.clear();
+    whenOpened(host, [&] {
+      sAberta = host.activeScreen()->sGetName();
+      press(host, Qt::Key_Escape);
+    });
+    if (bBarra) {
+      dynamic_cast<ToolBar&>(*janela.control("Toolbar1")).userClick("CadastroFornecedores");
+    } else {
+      mnuPrincipal.userChoose("mnuCadFornecedores");
+    }
+    EXPECT_EQ(sAberta, "frmCadastroFornecedores");
+  }
+  EXPECT_THROW(
+      {
+        janela.unload();
+        host.throwKept();
+      },
+      ProgramEnded);
 }
 
 TEST_F(CadastrosEmJanelas, ARefusalBringsTheTabOfItsBoxToTheFront) {

@@ -93,6 +93,11 @@ void Cadastros::programaComFatura() {
       "lNumeroFatura, fTotal, fEntrada, lCliente, lCondicoesPagamento, lPortador, lVendedor, lCentroCusto, dtEmissao",
       "1, 300, 0, " + lCliente + ", " + lCondicao + ", " + lPortador + ", " + lVendedor + ", " + lCusto +
           ", #03/15/2026#");
+  const auto lFornecedor = std::to_string(inserir("Fornecedores", "lCodigoInf, sNome, lCategoria, lCidade, lBanco",
+                                                  "1, 'Frigorífico Aurora', " + lCategoria + ", " + lCidade + ", 1"));
+  inserir("FaturasFornecedor",
+          "lNumeroFatura, fTotal, fEntrada, lFornecedor, lCondicoesPagamento, lPortador, lCentroCusto, dtEmissao",
+          "1, 300, 0, " + lFornecedor + ", " + lCondicao + ", " + lPortador + ", " + lCusto + ", #03/15/2026#");
 }
 
 std::int32_t Cadastros::cidade(const std::string& sNome, const std::string& sUF) {

@@ -47,7 +47,7 @@ class Cadastros : public testing::Test {
 
   /// Salespeople with the codes 1 to `iQuantos` and the names "Vendedor 001" and so on.
   void vendedores(int iQuantos);
-  /// One customer with an invoice, and a row of every register that they refer to.
+  /// One customer and one supplier with an invoice each, and a row of every register that they refer to.
   void programaComFatura();
   std::int32_t cidade(const std::string& sNome, const std::string& sUF);
 

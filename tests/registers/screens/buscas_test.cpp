@@ -5,6 +5,7 @@
 #include "registers/screens/TelaBuscaRapida.h"
 #include "registers/screens/frmLocalizarBancos.h"
 #include "registers/screens/frmLocalizarClientes.h"
+#include "registers/screens/frmLocalizarFornecedores.h"
 #include "registers/services/Cidade.h"
 #include "shell/services/Contexto.h"
 
@@ -62,28 +63,6 @@ TEST_P(BuscaCompleta, NarrowsTheRegistersList) {
   EXPECT_THAT(listados(tela.lstLista), ElementsAre("3|Anabela")) << "what was found stays when the search closes";
 }
 
-TEST_P(BuscaCompleta, WithoutTheRightItDoesNothing) {
-  auto& tela = abrirCadastro(GetParam().sCadastro);
-  host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
-    entrarSem("bPoderPesquisar");
-    host.expectBox(semPermissao());
-    busca.userKey(Key::f6);
-    EXPECT_TRUE(botao(busca, "cmdLocalizar").enabled());
-    busca.unload();
-  });
-  tela.userKey(Key::f6);
-}
-
-TEST_P(BuscaCompleta, WithNobodyToDriveItReportsAFailureAndStays) {
-  host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
-    host.expectBox(relatoDeFalha(), BoxAnswer::no);
-    busca.userKey(Key::f6);
-    EXPECT_EQ(busca.state(), Screen::State::loaded);
-    busca.unload();
-  });
-  host.showModal(programa.telas().obter(GetParam().sBusca));
-}
-
 INSTANTIATE_TEST_SUITE_P(
     Todas, BuscaCompleta,
     testing::Values(CasoCompleta{"frmCadastroCategorias", "frmLocalizarCategorias", "Localizar categoria", "Categorias",
@@ -95,6 +74,97 @@ INSTANTIATE_TEST_SUITE_P(
                     CasoCompleta{"frmCadastroCentroCusto", "frmLocalizarCentroCusto", "Localizar centro de custo",
                                  "CentroCusto", "btCodigoInf", "sDescricao", true}),
     [](const auto& caso) { return std::string(caso.param.sTabela); });
+
+struct CasoDeTela {
+  const char* sCadastro;
+  const char* sBusca;
+  const char* sLegenda;
+};
+void PrintTo(const CasoDeTela& caso, std::ostream* saida) { *saida << caso.sBusca; }
+
+/// The full search of every register.
+class TelaDeBusca : public Cadastros, public testing::WithParamInterface<CasoDeTela> {};
+
+TEST_P(TelaDeBusca, SearchesOnceAtItsOpeningAndLeavesTheRegisterAsFound) {
+  auto& tela = abrirCadastro(GetParam().sCadastro);
+  host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
+    EXPECT_EQ(busca.caption(), GetParam().sLegenda);
+    EXPECT_EQ(busca.title(), GetParam().sLegenda);
+    EXPECT_TRUE(botao(busca, "cmdLocalizar").enabled());
+    busca.userKey(Key::f6);
+    busca.userKey(Key::escape);
+    EXPECT_EQ(busca.state(), Screen::State::unloaded);
+  });
+  tela.userKey(Key::f6);
+  EXPECT_EQ(tela.state(), Screen::State::loaded);
+}
+
+TEST_P(TelaDeBusca, WithoutTheRightItDoesNothing) {
+  auto& tela = abrirCadastro(GetParam().sCadastro);
+  host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
+    entrarSem("bPoderPesquisar");
+    host.expectBox(semPermissao());
+    busca.userKey(Key::f6);
+    EXPECT_TRUE(botao(busca, "cmdLocalizar").enabled());
+    busca.unload();
+  });
+  tela.userKey(Key::f6);
+}
+
+TEST_P(TelaDeBusca, WithNobodyToDriveItReportsAFailureAndStays) {
+  host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
+    host.expectBox(relatoDeFalha(), BoxAnswer::no);
+    busca.userKey(Key::f6);
+    EXPECT_EQ(busca.state(), Screen::State::loaded);
+    busca.unload();
+  });
+  host.showModal(programa.telas().obter(GetParam().sBusca));
+}
+
+INSTANTIATE_TEST_SUITE_P(
+    Todas, TelaDeBusca,
+    testing::Values(CasoDeTela{"frmCadastroCategorias", "frmLocalizarCategorias", "Localizar categoria"},
+                    CasoDeTela{"frmCadastroPortadores", "frmLocalizarPortadores", "Localizar portador"},
+                    CasoDeTela{"frmCadastroVendedores", "frmLocalizarVendedor", "Localizar vendedor"},
+                    CasoDeTela{"frmCadastroCentroCusto", "frmLocalizarCentroCusto", "Localizar centro de custo"},
+                    CasoDeTela{"frmCadastroClientes", "frmLocalizarClientes", "Localizar cliente"},
+                    CasoDeTela{"frmCadastroFornecedores", "frmLocalizarFornecedores", "Localizar fornecedor"},
+                    CasoDeTela{"frmCadastroCondicoesPagamento", "frmLocalizarCondicoesPagamento",
+                               "Localizar condição de pagamento"}),
+    [](const auto& caso) { return std::string(caso.param.sBusca); });
+
+TEST_F(Cadastros, TheSearchOfSuppliersHasALineForEveryBoxInItsOrder) {
+  auto& busca = dynamic_cast<frmLocalizarFornecedores&>(abrir("frmLocalizarFornecedores"));
+  EXPECT_EQ(busca.sClausula(), "WHERE MID(Fornecedores.sNome, 1, 0) = '' ");
+  const auto lCampinas = cidade("Campinas", "SP");
+  for (TextControl* caixaDeTexto :
+       std::vector<TextControl*>{&busca.txtNome, &busca.txtEndereco, &busca.txtContato, &busca.txtEMail,
+                                 &busca.txtHomePage, &busca.txtObs, &busca.txtAgencia, &busca.txtConta})
+    caixaDeTexto->userType("d'á");
+  busca.txtCodigoInf.userType("8");
+  for (MaskBox* caixaComMascara :
+       {&busca.txtCEP, &busca.txtTelefone, &busca.txtFax, &busca.txtCPF, &busca.txtIE, &busca.txtCNPJ})
+    caixaComMascara->userType("13");
+  busca.vSetCategoria(4, "Atacado");
+  busca.cidade.vSetEstado2("Campinas", "SP");
+  busca.banco.vSetEstado2("Caixa Econômica Federal");
+  EXPECT_EQ(busca.sClausula(),
+            "WHERE MID(Fornecedores.sNome, 1, 3) = 'd''á' AND lCodigoInf = 8 AND MID(sEndereco, 1, 3) = 'd''á' AND "
+            "MID(sCEP, 1, 2) = '13' AND MID(sTelefone, 1, 3) = '(13' AND MID(sFax, 1, 3) = '(13' AND MID(sContato, 1, "
+            "3) = 'd''á' AND MID(sCPF, 1, 2) = '13' AND MID(sIE, 1, 2) = '13' AND MID(sCNPJ, 1, 2) = '13' AND "
+            "MID(sEmail, 1, 3) = 'd''á' AND MID(sHomePage, 1, 3) = 'd''á' AND MID(txtObs, 1, 3) = 'd''á' AND "
+            "MID(sAgencia, 1, 3) = 'd''á' AND MID(sConta, 1, 3) = 'd''á' AND lCategoria = 4 AND lCidade = " +
+                std::to_string(lCampinas) + " AND lBanco = 2 ");
+
+  // The clause is one that the register's own query takes.
+  auto& tela = abrirCadastro("frmCadastroFornecedores");
+  tela.vMontarLista(0, busca.sClausula());
+  EXPECT_THAT(tela.lstLista.items(), IsEmpty());
+
+  busca.banco.txtBanco.setFocus();
+  busca.userKey(Key::del);
+  EXPECT_THAT(busca.sClausula(), testing::Not(testing::HasSubstr("lBanco")));
+}
 
 class BuscaDeClientes : public Cadastros {
  protected:
@@ -151,31 +221,6 @@ TEST_F(BuscaDeClientes, TheBirthdaysAreChosenOnlyWithTheirTick) {
   busca.chkNascimento.userClick();
   EXPECT_FALSE(busca.dtNascimentoInicial.enabled());
   EXPECT_EQ(busca.sClausula(), "WHERE MID(Clientes.sNome, 1, 0) = '' ");
-}
-
-TEST_F(BuscaDeClientes, DeleteOnABoxDropsItsLine) {
-  auto& busca = abrirBusca();
-  busca.vSetCategoria(4, "Atacado");
-  busca.txtCategoria.setFocus();
-  busca.userKey(Key::del);
-  EXPECT_EQ(busca.sClausula(), "WHERE MID(Clientes.sNome, 1, 0) = '' ");
-}
-
-TEST_F(BuscaDeClientes, FindsCustomersInTheRegister) {
-  programaComFatura();
-  auto& tela = abrirCadastro("frmCadastroClientes");
-  host.expectScreen("frmLocalizarClientes", [&](Screen& aberta) {
-    auto& busca = dynamic_cast<frmLocalizarClientes&>(aberta);
-    EXPECT_EQ(tela.lstLista.items().size(), 1u);
-    busca.txtNome.userType("Acougue");
-    busca.userKey(Key::f6);
-    EXPECT_THAT(tela.lstLista.items(), IsEmpty()) << "accents count";
-    busca.txtNome.userType("AÇOUGUE");
-    busca.userKey(Key::f6);
-    EXPECT_EQ(tela.lstLista.items().size(), 1u);
-    busca.unload();
-  });
-  tela.userKey(Key::f6);
 }
 
 /// Opens quick searches and takes whatever they pick.

@@ -40,6 +40,7 @@ TEST_P(PlanosDasListas, NoListIsSorted) {
   std::vector<std::string> consultas{faturas().sConsulta({}),
                                      titulos().sConsulta({}),
                                      carregada<TelaCadastro>("frmCadastroClientes").sConsulta({}),
+                                     carregada<TelaCadastro>("frmCadastroFornecedores").sConsulta({}),
                                      carregada<TelaCadastro>("frmCadastroCondicoesPagamento").sConsulta({}),
                                      carregada<TelaEscolha>("frmLocalizarBancos").sConsulta(),
                                      "SELECT lCodigo, sUF, sNome FROM Cidades ORDER BY sUF, sNome"};
