@@ -7,6 +7,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstdint>
+#include <cstdio>
 #include <cstdlib>
 #include <cstring>
 #include <filesystem>
@@ -45,10 +46,9 @@ std::string reason(int code) {
 }
 
 [[noreturn]] void fail(int code, const std::string& what, const std::string& path) {
-  constexpr std::int32_t diskFull = 61;
   const bool full = code == ENOSPC || code == EDQUOT;
   const bool missing = code == ENOENT || code == ENOTDIR;
-  const auto number = full ? diskFull : missing ? errors::fileNotFound : errors::fileAccess;
+  const auto number = full ? errors::fileDiskFull : missing ? errors::fileNotFound : errors::fileAccess;
   throw Error(number, "Não foi possível " + what + " " + path + ": " + reason(code) + ".");
 }
 
@@ -101,6 +101,12 @@ void syncFolder(const std::string& path) {
   const std::string folder = end == std::string::npos ? "." : path.substr(0, std::max<std::size_t>(end, 1));
   const Descriptor descriptor(::open(folder.c_str(), O_RDONLY | O_DIRECTORY | O_CLOEXEC));
   if (descriptor.number() >= 0) ::fsync(descriptor.number());
+}
+
+/// A memory stick knows no links, but renames.
+bool giveName(const std::string& draft, const std::string& name) {
+  return ::link(draft.c_str(), name.c_str()) == 0 ||
+         (errno != EEXIST && ::renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0);
 }
 
 mode_t modeFor(const std::string& path) {
@@ -245,6 +251,29 @@ std::vector<std::string> withEnding(const std::string& folder, std::string_view 
     if (endsWithNoCase(entry.path().filename().string(), ending)) found.push_back(entry.path().string());
   std::sort(found.begin(), found.end());
   return found;
+}
+
+Draft::Draft(const std::string& path) : target_(nativePath(path)), path_(target_ + ".novo-XXXXXX") {
+  const Descriptor file(::mkostemp(path_.data(), O_CLOEXEC));
+  if (file.number() < 0) fail(errno, "gravar o arquivo", target_);
+}
+
+Draft::~Draft() { ::unlink(path_.c_str()); }
+
+void Draft::flush() const {
+  const Descriptor file(::open(path_.c_str(), O_RDWR | O_CLOEXEC));
+  if (file.number() < 0 || ::fsync(file.number()) != 0) fail(errno, "gravar o arquivo", target_);
+  ::posix_fadvise(file.number(), 0, 0, POSIX_FADV_DONTNEED);
+}
+
+void Draft::place() {
+  flush();
+  if (!giveName(path_, target_)) {
+    if (errno == EEXIST) throw Error(errors::fileExists, "O arquivo " + target_ + " já existe.");
+    fail(errno, "gravar o arquivo", target_);
+  }
+  ::unlink(path_.c_str());
+  syncFolder(target_);
 }
 
 std::vector<std::string> lines(std::string_view text) {

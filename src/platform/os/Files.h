@@ -55,6 +55,29 @@ void restrictToOwnerAndGroup(const std::string& path);
 /// The paths of the files in a folder whose names end so, without case; empty when the folder cannot be read.
 std::vector<std::string> withEnding(const std::string& folder, std::string_view ending);
 
+/// A file in the making: written under a name of its own beside its place, it takes the place whole or not at all, and
+/// never that of another file. Gone with the object unless it was placed.
+class Draft {
+ public:
+  /// Empty, for its owner alone. Error 53 when the folder is not there, 75 when it cannot be written, 61 on a full
+  /// disk.
+  explicit Draft(const std::string& path);
+  ~Draft();
+  Draft(const Draft&) = delete;
+  Draft& operator=(const Draft&) = delete;
+
+  /// Where it is to be written.
+  const std::string& path() const { return path_; }
+  /// Brings it to the disk, from which it is read again. Error 53, 75, 61.
+  void flush() const;
+  /// Flushes it and gives it its name. Error 58 when a file of that name is there by now, else 53, 75, 61.
+  void place();
+
+ private:
+  std::string target_;
+  std::string path_;
+};
+
 /// The lines of a text, whatever breaks them (CR LF, LF or CR); a break at the end opens no further line.
 std::vector<std::string> lines(std::string_view text);
 

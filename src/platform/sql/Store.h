@@ -11,6 +11,7 @@
 
 #include <chrono>
 #include <cstdint>
+#include <functional>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -128,5 +129,16 @@ class Recordset {
 /// Makes an empty store. Error 0x80040E17 when the file exists (its name matched without case); 3051 when it cannot be
 /// made; the file is there whole or not at all.
 void createStore(const std::string& path);
+
+/// Told in the course of a copy how much of the whole is done. What it throws breaks the copy off.
+using CopyProgress = std::function<void(std::int64_t done, std::int64_t whole)>;
+
+/// Copies a store, as it stands at one moment, to a file that is not there yet. While it lasts other programs go on
+/// reading, and their writes wait. The copy is there only when it is whole, on the disk and found sound: it opens, its
+/// integrity holds and each table has as many rows as the original's. Errors: those of opening `from`, which may be
+/// read-only; 0x80040E17 when `to` exists (its name matched without case), 3183 on a full disk, 3051 when the place
+/// cannot be written, 3049 when the original is damaged or the disk did not keep what was written.
+void copyStore(const std::string& from, const std::string& to, StoreEnvironment environment,
+               const CopyProgress& progress = {});
 
 }  // namespace fenvale

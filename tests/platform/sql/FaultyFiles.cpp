@@ -5,6 +5,7 @@
 #include <unistd.h>
 
 #include <cstring>
+#include <string>
 
 namespace fenvale::test {
 namespace {
@@ -35,9 +36,9 @@ sqlite3_file* real(sqlite3_file* file) { return reinterpret_cast<File*>(file)->r
 }
 
 /// Whether the fault strikes now; what kills does not come back, but for a torn write.
-bool strikes() {
+bool strikes(bool writes = false) {
   Layer& one = layer();
-  if (one.fault == Fault::none || ++one.count != one.number) return false;
+  if (one.fault == Fault::none || (one.fault == Fault::garble && !writes) || ++one.count != one.number) return false;
   if (one.fault == Fault::kill) die();
   return true;
 }
@@ -49,7 +50,12 @@ int readFile(sqlite3_file* file, void* bytes, int size, sqlite3_int64 place) {
   return real(file)->pMethods->xRead(real(file), bytes, size, place);
 }
 int writeFile(sqlite3_file* file, const void* bytes, int size, sqlite3_int64 place) {
-  if (strikes()) {
+  if (strikes(true)) {
+    if (layer().fault == Fault::garble) {
+      std::string other(static_cast<const char*>(bytes), static_cast<std::size_t>(size));
+      other.back() = static_cast<char>(~other.back());
+      return real(file)->pMethods->xWrite(real(file), other.data(), size, place);
+    }
     if (layer().fault != Fault::tear) return failure();
     real(file)->pMethods->xWrite(real(file), bytes, size / 2, place);
     die();

@@ -11,6 +11,7 @@ enum class Fault {
   tear,    ///< the process dies with half of the write done
   full,    ///< the disk is full, once
   broken,  ///< the disk answers with an error, once
+  garble,  ///< the disk keeps something else than was written, once, and does not tell
 };
 
 /// From now on every file of SQLite goes through the layer: writes, cuts, flushes and deletions are counted from 1, and

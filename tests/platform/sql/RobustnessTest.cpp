@@ -11,6 +11,7 @@
 
 #include "platform/sql/Collation.h"
 #include "platform/sql/FaultyFiles.h"
+#include "platform/sql/OtherPrograms.h"
 #include "platform/sql/StoreFixture.h"
 
 namespace fenvale::test {
@@ -70,23 +71,6 @@ class Robustness : public CompanyStore {
   std::string copy(const std::string& name) const {
     fs::copy_file(path(), folder.path(name), fs::copy_options::overwrite_existing);
     return folder.path(name);
-  }
-
-  /// The status of a child process that does this and nothing else.
-  static int inChild(const std::function<void()>& action) {
-    const pid_t child = ::fork();
-    if (child == 0) {
-      int code = 0;
-      try {
-        action();
-      } catch (const Error&) {
-        code = 1;
-      }
-      ::_exit(code);
-    }
-    int status = 0;
-    ::waitpid(child, &status, 0);
-    return status;
   }
 
   static void expectAllOrNothing(const std::string& file, bool mayBeThere) {
@@ -187,67 +171,6 @@ TEST_F(Robustness, AStoreIsMadeWholeOrNotAtAll) {
 }
 
 // Two programs
-
-/// A second program on the store, which acts on a word and answers when it is done.
-class OtherProgram {
- public:
-  OtherProgram(const std::string& path, std::vector<std::function<void(TestStore&)>> steps) {
-    EXPECT_EQ(::pipe(orders_), 0);
-    EXPECT_EQ(::pipe(answers_), 0);
-    child_ = ::fork();
-    if (child_ != 0) return;
-    int code = 0;
-    try {
-      TestStore store(path);
-      char word = 0;
-      for (const auto& step : steps) {
-        if (::read(orders_[0], &word, 1) != 1) break;
-        step(store);
-        if (::write(answers_[1], "!", 1) != 1) break;
-      }
-      while (::read(orders_[0], &word, 1) == 1) {  // stays as it is until it is ended
-      }
-    } catch (const Error&) {
-      code = 1;
-    }
-    ::_exit(code);
-  }
-  ~OtherProgram() {
-    ::close(orders_[1]);
-    ::kill(child_, SIGKILL);
-    ::waitpid(child_, nullptr, 0);
-    for (const int end : {orders_[0], answers_[0], answers_[1]}) ::close(end);
-  }
-  OtherProgram(const OtherProgram&) = delete;
-  OtherProgram& operator=(const OtherProgram&) = delete;
-
-  void order() { EXPECT_EQ(::write(orders_[1], "?", 1), 1); }
-  void next() {
-    order();
-    char word = 0;
-    EXPECT_EQ(::read(answers_[0], &word, 1), 1);
-  }
-
- private:
-  int orders_[2] = {-1, -1};
-  int answers_[2] = {-1, -1};
-  pid_t child_ = -1;
-};
-
-class Waiting final : public LockWait {
- public:
-  explicit Waiting(std::function<bool(int)> answer) : answer_(std::move(answer)) {}
-  bool keepWaiting(std::chrono::milliseconds waited) override {
-    EXPECT_GE(waited, last_ + std::chrono::milliseconds(90));
-    last_ = waited;
-    return answer_(++told);
-  }
-  int told = 0;
-
- private:
-  std::function<bool(int)> answer_;
-  std::chrono::milliseconds last_{0};
-};
 
 using TwoPrograms = Robustness;
 const char* const addBank = "INSERT INTO Bancos (sNome) VALUES ('x')";

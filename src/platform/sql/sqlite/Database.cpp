@@ -1,18 +1,12 @@
 #include "platform/sql/sqlite/Database.h"
 
-#include <fcntl.h>
 #include <sqlite3.h>
-#include <sys/stat.h>
-#include <unistd.h>
 
 #include <algorithm>
-#include <cerrno>
-#include <cstdio>
 #include <thread>
 #include <utility>
 
 #include "platform/base/Error.h"
-#include "platform/os/Files.h"
 #include "platform/sql/dialect/Literals.h"
 #include "platform/sql/sqlite/Failures.h"
 #include "platform/sql/sqlite/Functions.h"
@@ -23,26 +17,8 @@ namespace {
 
 using std::chrono::milliseconds;
 
-// Marks a file as one of our stores ("FENV"), so that another program's database is told from it.
-constexpr int applicationId = 0x46454E56;
-
 /// Short at first, since most locks last no longer than a commit.
 milliseconds pause(int attempt) { return milliseconds(std::min(100, 1 << std::min(attempt, 7))); }
-
-void synchronizeFolderOf(const std::string& path) {
-  const std::size_t place = path.rfind('/');
-  const std::string folder = place == std::string::npos ? "." : path.substr(0, place + 1);
-  if (const int descriptor = ::open(folder.c_str(), O_RDONLY | O_DIRECTORY); descriptor >= 0) {
-    ::fsync(descriptor);
-    ::close(descriptor);
-  }
-}
-
-/// Should another program have made the file meanwhile, it stays. A memory stick knows no links, but renames.
-bool giveName(const std::string& draft, const std::string& name) {
-  return ::link(draft.c_str(), name.c_str()) == 0 ||
-         (errno != EEXIST && ::renameat2(AT_FDCWD, draft.c_str(), AT_FDCWD, name.c_str(), RENAME_NOREPLACE) == 0);
-}
 
 }  // namespace
 
@@ -122,11 +98,13 @@ Value Prepared::value(std::size_t column, ValueType type) const {
   }
 }
 
-Database::Database(const std::string& path, LockWait* lockWait) : lockWait_(lockWait) {
+Database::Database(const std::string& path, LockWait* lockWait, Access access) : lockWait_(lockWait) {
   checkFile(path);
   context_.path = path;
+  const bool writable = canBeWritten(path);
+  if (access == Access::write && !writable) fail(SQLITE_READONLY);
   // The program has one thread: no lock around every call.
-  constexpr int mode = SQLITE_OPEN_READWRITE | SQLITE_OPEN_NOMUTEX;
+  const int mode = (writable ? SQLITE_OPEN_READWRITE : SQLITE_OPEN_READONLY) | SQLITE_OPEN_NOMUTEX;
   const int code = sqlite3_open_v2(path.c_str(), &handle_, mode, nullptr);
   try {
     if (code != SQLITE_OK) fail(code);
@@ -136,7 +114,7 @@ Database::Database(const std::string& path, LockWait* lockWait) : lockWait_(lock
     registerFunctions(handle_, functionFailure_);
     if (number("PRAGMA application_id") != applicationId)
       throw Error(errors::fileNotStore, "O arquivo " + path + " não é um banco de dados do sistema.");
-    if (sqlite3_db_readonly(handle_, "main") == 1) fail(SQLITE_READONLY);
+    if (access == Access::write && sqlite3_db_readonly(handle_, "main") == 1) fail(SQLITE_READONLY);
     run("PRAGMA foreign_keys = ON; PRAGMA synchronous = FULL; PRAGMA journal_mode = DELETE");
     run("PRAGMA temp_store = MEMORY; PRAGMA cache_size = -16384");
   } catch (const Error&) {
@@ -166,7 +144,7 @@ void Database::speakOf(std::string table, bool deletes) {
 }
 
 void Database::fail(int code) const {
-  if (waitFailure_) std::rethrow_exception(std::exchange(waitFailure_, nullptr));
+  if (calledFailure_) std::rethrow_exception(std::exchange(calledFailure_, nullptr));
   if (functionFailure_) throw *std::exchange(functionFailure_, std::nullopt);
   // A code of our own making is not the one that the handle remembers.
   if (handle_ == nullptr || (sqlite3_errcode(handle_) & 0xFF) != (code & 0xFF)) throw failureOf(code, "", context_);
@@ -215,34 +193,30 @@ int Database::waitForLock(void* self, int attempt) {
   try {
     return database.lockWait_->keepWaiting(database.waited_) ? 1 : 0;
   } catch (...) {
-    database.waitFailure_ = std::current_exception();  // thrown on once SQLite has let go
+    database.calledFailure_ = std::current_exception();
     return 0;
   }
 }
 
-void createFile(const std::string& path) {
-  const std::string native = files::nativePath(path);
-  if (files::isFile(native)) throw Error(errors::storeExists, "O banco de dados " + native + " já existe.");
-  const std::string draft = native + ".novo-" + std::to_string(::getpid());
-  sqlite3* handle = nullptr;
-  int code = sqlite3_open_v2(draft.c_str(), &handle, SQLITE_OPEN_READWRITE | SQLITE_OPEN_CREATE, nullptr);
-  if (code == SQLITE_OK) {
-    const std::string text = "PRAGMA synchronous = FULL; PRAGMA application_id = " + std::to_string(applicationId) +
-                             "; CREATE TABLE " + catalogTable +
-                             " (ordem INTEGER PRIMARY KEY AUTOINCREMENT, texto TEXT NOT NULL)";
-    code = sqlite3_exec(handle, text.c_str(), nullptr, nullptr, nullptr);
+void Database::whileRunning(std::function<void()> action) {
+  constexpr int instructions = 100000;
+  whileRunning_ = std::move(action);
+  sqlite3_progress_handler(handle_, instructions, whileRunning_ ? &tellRunning : nullptr, this);
+}
+
+int Database::tellRunning(void* self) {
+  auto& database = *static_cast<Database*>(self);
+  try {
+    database.whileRunning_();
+    return 0;
+  } catch (...) {
+    database.calledFailure_ = std::current_exception();
+    return 1;
   }
-  sqlite3_close_v2(handle);
-  ::chmod(draft.c_str(), 0660);  // a store holds passwords: for owner and group only
-  const bool made = code == SQLITE_OK && giveName(draft, native);
-  const int reason = errno;
-  ::unlink(draft.c_str());
-  if (made) return synchronizeFolderOf(native);
-  if (code == SQLITE_OK && reason == EEXIST)
-    throw Error(errors::storeExists, "O banco de dados " + native + " já existe.");
-  if ((code & 0xFF) == SQLITE_FULL || reason == ENOSPC)
-    throw Error(errors::diskFull, "O disco está cheio: nada foi gravado.");
-  throw Error(errors::storeNotOpened, "O banco de dados " + native + " não pode ser criado.");
+}
+
+void Database::checkIntegrity() const {
+  if (texts("PRAGMA integrity_check(1)") != std::vector<std::string>{"ok"}) fail(SQLITE_CORRUPT);
 }
 
 }  // namespace fenvale::sql

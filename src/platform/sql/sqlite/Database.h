@@ -2,6 +2,7 @@
 // One open SQLite file, and statements prepared on it.
 
 #include <exception>
+#include <functional>
 #include <memory>
 #include <optional>
 #include <string>
@@ -55,8 +56,12 @@ class Running {
 
 class Database {
  public:
+  enum class Access {
+    write,
+    readAtLeast,  ///< a file that cannot be written will do
+  };
   /// Opens a file that createStore has made. Errors 3024, 3343, 3049, 3027, 3051, 3218.
-  Database(const std::string& path, LockWait* lockWait);
+  Database(const std::string& path, LockWait* lockWait, Access access = Access::write);
   ~Database();
   Database(const Database&) = delete;
   Database& operator=(const Database&) = delete;
@@ -73,6 +78,12 @@ class Database {
   std::vector<std::string> texts(const std::string& query) const;
   std::int64_t changedRows() const;
   bool inTransaction() const;
+  /// Called again and again while long statements run, about every hundredth of a second; what it throws breaks the
+  /// statement off and is thrown on.
+  void whileRunning(std::function<void()> action);
+  /// Error 3049 when anything in the file contradicts anything else.
+  void checkIntegrity() const;
+  sqlite3* handle() const { return handle_; }
   /// Counts the definitions that the file has seen, by whomever.
   std::int64_t schemaVersion() const;
 
@@ -100,23 +111,30 @@ class Database {
  private:
   friend class Prepared;
   static int waitForLock(void* self, int attempt);
+  static int tellRunning(void* self);
   /// Throws what the last call failed with: an Error of our own functions or of the lock's wait, else SQLite's.
   [[noreturn]] void fail(int code) const;
 
   sqlite3* handle_ = nullptr;
   FailureContext context_;
   mutable std::optional<Error> functionFailure_;
-  mutable std::exception_ptr waitFailure_;
+  /// Thrown by whoever was told of a wait or of a running statement: on once SQLite has let go.
+  mutable std::exception_ptr calledFailure_;
+  std::function<void()> whileRunning_;
   LockWait* lockWait_;
   Prepared dataVersion_, anyRow_;
   std::chrono::milliseconds waited_{0};
   std::chrono::milliseconds told_{0};
 };
 
+/// Marks a file as one of our stores ("FENV"), so that another program's database is told from it.
+inline constexpr int applicationId = 0x46454E56;
+
 /// The table in which a store keeps the definitions that were applied to it, in their order.
 inline constexpr const char* catalogTable = "FenvaleCatalogo";
 
-/// Makes the file whole or not at all.
+// What createStore and copyStore promise.
 void createFile(const std::string& path);
+void copyFile(const std::string& from, const std::string& to, LockWait* lockWait, const CopyProgress& progress);
 
 }  // namespace fenvale::sql

@@ -321,4 +321,9 @@ std::int64_t Recordset::affectedRows() const { return implementation_->affected;
 
 void createStore(const std::string& path) { createFile(path); }
 
+void copyStore(const std::string& from, const std::string& to, StoreEnvironment environment,
+               const CopyProgress& progress) {
+  copyFile(from, to, environment.lockWait, progress);
+}
+
 }  // namespace fenvale

@@ -30,13 +30,15 @@ void checkFile(const std::string& path) {
   if (!exists(path)) throw Error(errors::storeNotFound, "O banco de dados " + path + " não foi encontrado.");
   if (!fs::is_regular_file(path, failure) || access(path.c_str(), R_OK) != 0)
     throw Error(errors::storeNotOpened, "O banco de dados " + path + " não pode ser aberto.");
-  if (access(path.c_str(), W_OK) != 0 || access(folderOf(path).c_str(), W_OK) != 0)
-    throw Error(errors::storeReadOnly, "O banco de dados " + path + " só pode ser lido.");
   // An empty file would pass for an empty store.
   std::array<char, 16> head{};
   std::ifstream(path, std::ios::binary).read(head.data(), head.size());
   if (std::string_view(head.data(), 15) != "SQLite format 3")
     throw Error(errors::fileNotStore, "O arquivo " + path + " não é um banco de dados do sistema.");
+}
+
+bool canBeWritten(const std::string& path) {
+  return access(path.c_str(), W_OK) == 0 && access(folderOf(path).c_str(), W_OK) == 0;
 }
 
 }  // namespace fenvale::sql
