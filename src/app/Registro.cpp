@@ -11,6 +11,7 @@
 #include "shell/services/Telas.h"
 #include "store/screens/frmEmpresa.h"
 #include "store/screens/frmEmpresaAbrir.h"
+#include "store/screens/frmEmpresaBackup.h"
 #include "store/screens/frmEmpresaNova.h"
 #include "store/screens/frmExibirImagem.h"
 #include "store/screens/frmLocalizarArquivo.h"
@@ -29,6 +30,7 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmCadastroUsuarios>("frmCadastroUsuarios");
   telas.registrar<frmEmpresa>("frmEmpresa");
   telas.registrar<frmEmpresaAbrir>("frmEmpresaAbrir");
+  telas.registrar<frmEmpresaBackup>("frmEmpresaBackup");
   telas.registrar<frmEmpresaNova>("frmEmpresaNova");
   telas.registrar<frmExibirImagem>("frmExibirImagem");
   telas.registrar<frmLocalizarArquivo>("frmLocalizarArquivo");

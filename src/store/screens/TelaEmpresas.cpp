@@ -1,5 +1,7 @@
 #include "store/screens/TelaEmpresas.h"
 
+#include <algorithm>
+
 #include "platform/os/Files.h"
 #include "platform/sql/Store.h"
 #include "shell/services/Contexto.h"
@@ -73,6 +75,15 @@ void TelaEmpresas::vAlterarLista(const std::string& sSQL, const char* sProcedime
 } catch (const Error& falha) {
   if (falha.number != errors::refused) return vRegistrarFalha(falha, sProcedimento);
   avisar("Os dados informados já existem no sistema.\r\n\r\nInformação detalhada: " + falha.description);
+}
+
+std::shared_ptr<ListItem> TelaEmpresas::linhaMarcada() {
+  const auto& itens = lstLista.items();
+  const auto marcado = std::find_if(itens.begin(), itens.end(), [](const auto& item) { return item->checked(); });
+  if (marcado != itens.end() && lCodigoDaChave((*marcado)->key()) > 0) return *marcado;
+  avisar("Selecione uma empresa.", "Norvane sistemas");
+  lstLista.setFocus();
+  return nullptr;
 }
 
 void TelaEmpresas::vMarcarSomente(const ListItem& item) {

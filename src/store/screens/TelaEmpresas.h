@@ -35,11 +35,16 @@ class TelaEmpresas : public TelaPaginada {
   std::optional<Arquivo> escolherArquivo() const;
   /// Runs a statement on the list of companies and shows the list anew; a refusal by the store is told.
   void vAlterarLista(const std::string& sSQL, const char* sProcedimento);
+  /// The row that is ticked; nothing, after a word to the user, when there is none.
+  std::shared_ptr<ListItem> linhaMarcada();
   /// Ticks the row and no other.
   void vMarcarSomente(const ListItem& item);
   static std::string sLiteral(const std::string& sTexto);
   static std::string sCaminhoInvalido(const std::string& sCaminho);
 };
+
+/// What the name of a company's file ends in.
+inline constexpr const char* sExtensaoEmpresa = ".MDB";
 
 /// The path with a separator at its end.
 std::string sComSeparador(std::string sCaminho);

@@ -1,8 +1,5 @@
 #include "store/screens/frmEmpresaAbrir.h"
 
-#include <algorithm>
-
-#include "platform/os/Files.h"
 #include "shell/services/Ampulheta.h"
 #include "shell/services/Contexto.h"
 #include "store/services/Empresas.h"
@@ -41,17 +38,8 @@ void frmEmpresaAbrir::vClicarLinha(const std::shared_ptr<ListItem>& item) {
   mnuPopUp.show();
 }
 
-std::shared_ptr<ListItem> frmEmpresaAbrir::bTestarPreechimento() {
-  const auto& itens = lstLista.items();
-  const auto marcado = std::find_if(itens.begin(), itens.end(), [](const auto& item) { return item->checked(); });
-  if (marcado != itens.end() && lCodigoDaChave((*marcado)->key()) > 0) return *marcado;
-  avisar("Selecione uma empresa.", "Norvane sistemas");
-  lstLista.setFocus();
-  return nullptr;
-}
-
 void frmEmpresaAbrir::cmdSalvar_Click() try {
-  const auto item = bTestarPreechimento();
+  const auto item = linhaMarcada();
   if (!item) return;
   const Arquivo arquivo = arquivoDaLinha(*item);
   Empresas& empresas = contexto().empresas();

@@ -20,7 +20,6 @@ class frmEmpresaAbrir final : public TelaEmpresas {
 
  private:
   void lstLista_ItemCheck(const std::shared_ptr<ListItem>& item);
-  std::shared_ptr<ListItem> bTestarPreechimento();
   void cmdSalvar_Click();
   void mnuEditarEmpresa_Click();
 };

@@ -1,34 +1,18 @@
 #include "store/screens/frmEmpresaNova.h"
 
 #include "access/services/Permissoes.h"
-#include "platform/base/Text.h"
 #include "platform/os/Files.h"
 #include "platform/sql/Store.h"
 #include "shell/services/Contexto.h"
 #include "store/services/BancoDados.h"
 
 namespace fenvale {
-namespace {
-
-constexpr const char* sExtensao = ".MDB";
-
-bool bVazio(const TextBox& caixa) { return without(caixa.text(), " ").empty(); }
-
-}  // namespace
 
 frmEmpresaNova::frmEmpresaNova(Contexto& contexto)
-    : TelaEmpresas(contexto, "frmEmpresaNova", ListView::CheckBoxes::none) {
+    : TelaNovoArquivo(contexto, "frmEmpresaNova", "Informe o local onde será criado o arquivo da nova empresa",
+                      ListView::CheckBoxes::none) {
   setTitle("Nova empresa");
-  setLayout({
-      linha({campo("Nome do arquivo", txtNomeArquivo, 8), campo("Caminho", txtCaminho, cresce)}),
-      solto(lblLocal),
-      linha({campo("Unidade", drvlstListaDiretorios, cresce)}),
-      lista(drvArvoreDiretorios, "Pastas"),
-      quadro("Empresas criadas", {lista(lstLista, "Empresas criadas"), paginas(scrPaginas, pbBarrra)}),
-      botoes({&cmdSalvar, &cmdEmitir, &cmdLocalizar}, {&cmdFechar}),
-  });
-  setPreferredSize(20, 34);
-  cmdSalvar.setPrimary();
+  vMontarTela({&cmdSalvar, &cmdEmitir, &cmdLocalizar});
   mnuPopUp.setItems({
       {"mnuLocalizarEmpresa",
        "Localizar uma empresa já criada",
@@ -40,42 +24,13 @@ frmEmpresaNova::frmEmpresaNova(Contexto& contexto)
       {"mnuSep1", "-", {}, {}, {}, true, true},
       {"mnuExcluirEmpresa", "Excluir empresa", {}, [this] { vExcluirCampo(); }, "excluir", true, true},
   });
-  drvlstListaDiretorios.onChange = [this] { drvArvoreDiretorios.setPath(drvlstListaDiretorios.drive()); };
-  drvArvoreDiretorios.onChange = [this] { txtCaminho.setText(drvArvoreDiretorios.path()); };
-  txtCaminho.onLostFocus = [this] {
-    if (files::isFolder(txtCaminho.text())) drvArvoreDiretorios.setPath(txtCaminho.text());
-  };
   lstLista.onEmptyRightClick = [this] { vMostrarMenu(); };
   cmdSalvar.onClick = [this] { cmdSalvar_Click(); };
   cmdLocalizar.onClick = [this] { vAtualizarCampo(); };
 }
 
-void frmEmpresaNova::onLoad() {
-  txtCaminho.setText(drvArvoreDiretorios.path());
-  TelaEmpresas::onLoad();
-}
-
-void frmEmpresaNova::vLimpar() {
-  txtNomeArquivo.setText({});
-  vMostrarAPartirDe(0);
-}
-
-bool frmEmpresaNova::bVerificarDados() {
-  if (bVazio(txtNomeArquivo)) return recusar("Informe o nome do arquivo.", txtNomeArquivo);
-  if (!endsWithNoCase(txtNomeArquivo.text(), sExtensao)) txtNomeArquivo.setText(txtNomeArquivo.text() + sExtensao);
-  if (bVazio(txtCaminho)) return recusar("Informe o caminho onde será gravado o arquivo.", drvArvoreDiretorios);
-  txtCaminho.setText(sComSeparador(txtCaminho.text()));
-  const std::string& sPasta = txtCaminho.text();
-  if (!files::isFolder(sPasta))
-    return recusar("O caminho informado \r\n\r\n" + sPasta + "\r\n\r\nnão existe.", drvArvoreDiretorios);
-  const std::string sArquivo = sPasta + txtNomeArquivo.text();
-  if (files::isFile(sArquivo))
-    return recusar(sArquivo + "\r\n\r\nO arquivo já existe no local especificado.", txtNomeArquivo);
-  return true;
-}
-
 void frmEmpresaNova::cmdSalvar_Click() {
-  if (permissoes().bGetSalvar() && bVerificarDados()) vCriarEmpresa();
+  if (permissoes().bGetSalvar() && bVerificarArquivo()) vCriarEmpresa();
 }
 
 void frmEmpresaNova::vCriarEmpresa() try {
@@ -103,7 +58,7 @@ bool frmEmpresaNova::bIncluirECriar() {
   conexao().beginTrans();
   vExecutar("INSERT INTO Empresas (sNomeArquivo, sCaminho) VALUES (" + sLiteral(sNome) + ", " + sLiteral(sPasta) +
             ") ");
-  if (BancoDados(contexto()).bCriarArquivoMDB(sPasta + sNome)) {
+  if (BancoDados(contexto()).bCriarArquivoMDB(sGetArquivo())) {
     conexao().commitTrans();
     return true;
   }

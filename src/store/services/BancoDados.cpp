@@ -7,7 +7,6 @@
 #include "platform/base/Text.h"
 #include "platform/os/Files.h"
 #include "platform/os/Process.h"
-#include "platform/sql/Store.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Tela.h"
 #include "shell/services/TratadorExcessoes.h"
@@ -55,6 +54,11 @@ bool BancoDados::bCriarArquivoMDB(const std::string& sCaminho) try {
   if (falha.number != errors::storeExists)
     contexto_.tratadorExcessoes().vExibirGravarLogErro(falha, sGetName(), "bCriarArquivoMDB");
   return false;
+}
+
+void BancoDados::vCopiarArquivoMDB(const std::string& sOrigem, const std::string& sDestino,
+                                   const CopyProgress& progresso) {
+  copyStore(sOrigem, sDestino, contexto_.dbEmpresa().ambiente(), progresso);
 }
 
 void BancoDados::vAtualizarBD(const std::string& sCaminhoXMLSQL, bool bEmpresa) try {

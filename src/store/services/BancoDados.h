@@ -5,6 +5,8 @@
 #include <cstdint>
 #include <string>
 
+#include "platform/sql/Store.h"
+
 namespace fenvale {
 
 class Contexto;
@@ -17,6 +19,9 @@ class BancoDados {
 
   /// False when the file exists already.
   bool bCriarArquivoMDB(const std::string& sCaminho);
+  /// Copies a company's file whole or not at all, as copyStore does; waits for another program's lock as its own
+  /// connection would.
+  void vCopiarArquivoMDB(const std::string& sOrigem, const std::string& sDestino, const CopyProgress& progresso);
   /// Runs a script; when any statement took effect it tells the user and ends the program.
   void vAtualizarBD(const std::string& sCaminhoXMLSQL, bool bEmpresa);
   /// 1 when the statement ran, 0 when it failed in one of the expected ways.

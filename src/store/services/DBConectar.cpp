@@ -62,7 +62,8 @@ std::string DBConectar::sVerificarConteudoIni() try {
   return {};
 }
 
-DBEmpresa::DBEmpresa(Contexto& contexto, StoreEnvironment ambiente) : contexto_(contexto), conexao_(ambiente) {}
+DBEmpresa::DBEmpresa(Contexto& contexto, StoreEnvironment ambiente)
+    : contexto_(contexto), ambiente_(ambiente), conexao_(ambiente) {}
 
 Connection& DBEmpresa::Dados() {
   if (!bIniciado) bSetEmpresa(false);

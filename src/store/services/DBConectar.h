@@ -35,12 +35,14 @@ class DBEmpresa {
   static const char* sGetName() { return "DBEmpresa"; }
 
   Connection& Dados();
+  StoreEnvironment ambiente() const { return ambiente_; }
   /// Opens the file that Empresas names, brings it up to date and seeds it. False when the file is not there or is no
   /// store, told to the user if bMensagem.
   bool bSetEmpresa(bool bMensagem);
 
  private:
   Contexto& contexto_;
+  StoreEnvironment ambiente_;
   Connection conexao_;
   bool bIniciado = false;
 };

@@ -167,6 +167,43 @@ TEST_F(Files, APieceThatDoesNotFitLeavesNothing) {
   EXPECT_FALSE(folder.existe("a.txt"));
 }
 
+TEST_F(Files, ADraftTakesItsPlaceWhenItIsWholeAndIsGoneOtherwise) {
+  {
+    files::Draft draft(folder.arquivo("a.MDB"));
+    EXPECT_EQ(modeOf(draft.path()), 0600U);
+    files::write(draft.path(), "meio");
+    EXPECT_FALSE(folder.existe("a.MDB"));
+  }
+  EXPECT_THAT(folder.nomes(), IsEmpty());
+  {
+    files::Draft draft(folder.arquivo("a.MDB"));
+    files::write(draft.path(), "inteiro");
+    draft.place();
+    EXPECT_THAT(folder.nomes(), ElementsAre("a.MDB"));
+  }
+  EXPECT_EQ(folder.ler("a.MDB"), "inteiro");
+}
+
+TEST_F(Files, ADraftNeverTakesThePlaceOfAnotherFile) {
+  files::Draft draft(folder.arquivo("a.MDB"));
+  folder.gravar("a.MDB", "outro");
+  const Error taken = failure([&] { draft.place(); });
+  EXPECT_EQ(taken.number, errors::fileExists);
+  EXPECT_EQ(taken.description, "O arquivo " + folder.arquivo("a.MDB") + " já existe.");
+  EXPECT_EQ(folder.ler("a.MDB"), "outro");
+}
+
+TEST_F(Files, ADraftWithoutItsFolderIsTold) {
+  const std::string sentence =
+      "Não foi possível gravar o arquivo " + folder.arquivo("sub/a.MDB") + ": o caminho não existe.";
+  EXPECT_EQ(failure([&] { const files::Draft draft(folder.arquivo("sub/a.MDB")); }).description, sentence);
+  folder.gravar("sub/x", "x");
+  files::Draft draft(folder.arquivo("sub/a.MDB"));
+  fs::remove_all(folder.arquivo("sub"));
+  EXPECT_EQ(failure([&] { draft.flush(); }).description, sentence);
+  EXPECT_EQ(failure([&] { draft.place(); }).description, sentence);
+}
+
 TEST_F(Files, FoldersAreMadeWithThoseAboveThem) {
   files::createFolder(folder.caminho() + "\\a\\b");
   EXPECT_TRUE(fs::is_directory(folder.arquivo("a/b")));
