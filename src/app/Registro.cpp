@@ -19,12 +19,16 @@
 #include "store/screens/frmMensagem.h"
 #include "store/screens/frmSistema.h"
 #include "titles/screens/frmCadastroFaturasCliente.h"
+#include "titles/screens/frmCadastroFaturasFornecedor.h"
+#include "titles/screens/frmCadastroTitulosPagar.h"
 #include "titles/screens/frmCadastroTitulosReceber.h"
 
 namespace fenvale {
 
 void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
+  telas.registrar<frmCadastroFaturasFornecedor>("frmCadastroFaturasFornecedor");
+  telas.registrar<frmCadastroTitulosPagar>("frmCadastroTitulosPagar");
   telas.registrar<frmCadastroTitulosReceber>("frmCadastroTitulosReceber");
   vRegistrarTelasDosCadastros(telas);
   telas.registrar<frmCadastroUsuarios>("frmCadastroUsuarios");

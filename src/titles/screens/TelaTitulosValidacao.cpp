@@ -19,10 +19,14 @@ std::string sReais(Currency fValor, const char* sMascara = "#,##0.00") {
 
 }  // namespace
 
-bool TelaTitulosCadastro::bVerificarDados() {
+bool TelaTitulosCadastro::bVerificarDados() try {
   lFaturaAntes_ = lFatura;
   chavesAntes_ = entidades.chaves();
   return bTestarPreenchimento();
+} catch (const Error& falha) {
+  if (!lado_.bRelataVerificacao) throw;
+  vRegistrarFalha(falha, "bTestarPreenchimento", iContinuar);
+  return false;
 }
 
 bool TelaTitulosCadastro::bTituloPago() const { return lCodigo >= 0 && sPagoGuardado_ == "Sim"; }

@@ -1,6 +1,6 @@
 #pragma once
 // The two sides of the ledger. Receivables and payables are one code; what differs between them stands here and nowhere
-// else: tables and columns, words, the names of screens and controls, and three things that only one side has.
+// else: tables and columns, words, the names of screens and controls, and the few things that only one side has.
 
 #include <cstdint>
 #include <string>
@@ -28,9 +28,10 @@ struct Lado {
   /// The invoice of the title with a code.
   std::int32_t (Titulos::*lGetCodigoFatura)(const std::string& sCodigoInf);
 
-  bool bVendedor;  ///< an invoice has a salesperson
-  bool bFilial;    ///< a title has a branch
-  bool bJuros;     ///< interest can be worked out
+  bool bVendedor;           ///< an invoice has a salesperson
+  bool bFilial;             ///< a title has a branch
+  bool bJuros;              ///< interest can be worked out
+  bool bRelataVerificacao;  ///< a failure of the checks before a save of a title is reported under a name of its own
 
   std::string sPessoa;               ///< "Cliente": in the names of controls, as label and as heading
   std::string sAcessoPessoa;         ///< the letter of that label's access key

@@ -6,6 +6,8 @@
 #include "shell/services/Telas.h"
 #include "titles/Cenario.h"
 #include "titles/screens/frmCadastroFaturasCliente.h"
+#include "titles/screens/frmCadastroFaturasFornecedor.h"
+#include "titles/screens/frmCadastroTitulosPagar.h"
 #include "titles/screens/frmCadastroTitulosReceber.h"
 
 namespace fenvale {
@@ -17,6 +19,8 @@ using testing::SizeIs;
 inline void vRegistrarTelasDeTitulos(Telas& telas) {
   vRegistrarTelasDosCadastros(telas);
   telas.registrar<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
+  telas.registrar<frmCadastroFaturasFornecedor>("frmCadastroFaturasFornecedor");
+  telas.registrar<frmCadastroTitulosPagar>("frmCadastroTitulosPagar");
   telas.registrar<frmCadastroTitulosReceber>("frmCadastroTitulosReceber");
 }
 

@@ -241,7 +241,7 @@ TEST_P(FaturasTitulosTest, ARolledBackSaveGivesTheCostCentreBackToo) {
   EXPECT_EQ(faturas().entidades.centroCusto.busca.lCodigo, -1);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lados, FaturasTitulosTest, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, FaturasTitulosTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 }  // namespace
 }  // namespace fenvale

@@ -323,7 +323,7 @@ TEST_P(FaturasTest, ALeftClickAfterARightClickOpensNoMenu) {
   faturas().lstLista.userClickRow(0);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lados, FaturasTest, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, FaturasTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 TEST(FaturasCliente, ColumnsOfTheList) {
   Cenario cenario{ladoReceber(), &vRegistrarTelasDeTitulos};

@@ -53,15 +53,15 @@ TEST_P(PlanosDasListas, NoListIsSorted) {
   }
 }
 
-TEST_P(PlanosDasListas, TheTitlesOfOneInvoiceOrCustomerAreSearchedFor) {
-  for (const std::string sClausula :
-       {"WHERE TitulosReceber.lFaturaCliente = 1 ", "WHERE TitulosReceber.lFaturaCliente = 1 AND (fValorPago <= 0) ",
-        "WHERE FaturasCliente.lCliente = 1 ", "WHERE FaturasCliente.lCliente = 1 AND (fValorPago > 0) ",
-        "WHERE FaturasCliente.lCliente = 1 AND (fValorPago <= 0) "})
+TEST_P(PlanosDasListas, TheTitlesOfOneInvoiceOrPersonAreSearchedFor) {
+  const std::string sDaFatura = "WHERE " + lado.sTitulos + "." + lado.sLigacao + " = 1 ";
+  const std::string sDaPessoa = "WHERE " + lado.sFaturas + "." + lado.sChavePessoa + " = 1 ";
+  for (const std::string& sClausula : {sDaFatura, sDaFatura + "AND (fValorPago <= 0) ", sDaPessoa,
+                                       sDaPessoa + "AND (fValorPago > 0) ", sDaPessoa + "AND (fValorPago <= 0) "})
     EXPECT_THAT(plano(titulos().sConsulta(sClausula)), Each(Not(StartsWith("SCAN ")))) << sClausula;
 }
 
-INSTANTIATE_TEST_SUITE_P(Receber, PlanosDasListas, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, PlanosDasListas, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 }  // namespace
 }  // namespace fenvale

@@ -327,7 +327,7 @@ TEST_P(TitulosBaixaTest, TheOldStateHoldsWhenItsRowHasLeftTheList) {
   titulos().userKey(Key::f3);
 }
 
-INSTANTIATE_TEST_SUITE_P(Lados, TitulosBaixaTest, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, TitulosBaixaTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 }  // namespace
 }  // namespace fenvale

@@ -92,7 +92,7 @@ TEST_P(TitulosExclusaoTest, AFailureAfterTheDeletionUndoesItAndIsReported) {
               testing::HasSubstr("cmdExcluir_Click"));
 }
 
-INSTANTIATE_TEST_SUITE_P(Lados, TitulosExclusaoTest, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, TitulosExclusaoTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 }  // namespace
 }  // namespace fenvale

@@ -231,7 +231,7 @@ TEST_P(TitulosListaTest, TheInvoiceThatIsPreviewedStaysWithoutTheTick) {
   }
 }
 
-INSTANTIATE_TEST_SUITE_P(Lados, TitulosListaTest, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, TitulosListaTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 class TitulosReceberTest : public CenarioDeTelas {
  protected:

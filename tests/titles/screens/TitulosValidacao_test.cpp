@@ -228,7 +228,7 @@ TEST_P(TitulosValidacaoTest, ATitleWhoseInvoiceWentInTheMeantimeGetsAnother) {
             lado.sOndeMudarTotal + "."));
 }
 
-INSTANTIATE_TEST_SUITE_P(Lados, TitulosValidacaoTest, testing::Values(&ladoReceber), nomeDoLado);
+INSTANTIATE_TEST_SUITE_P(Lados, TitulosValidacaoTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 }  // namespace
 }  // namespace fenvale

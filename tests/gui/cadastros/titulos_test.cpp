@@ -1,0 +1,119 @@
+// Invoices and titles of both sides in real windows: from the first key of an invoice to its settled title without a
+// mouse.
+
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
+#include "gui/cadastros/CadastrosEmJanelas.h"
+#include "platform/base/Format.h"
+#include "titles/screens/TelaFaturas.h"
+#include "titles/screens/TelaTitulosCadastro.h"
+#include "titles/services/Lado.h"
+
+namespace fenvale::qt {
+namespace {
+
+using EscolhaDeLado = const Lado& (*)();
+
+class TitulosEmJanelas : public CadastrosEmJanelas, public testing::WithParamInterface<EscolhaDeLado> {
+ protected:
+  TitulosEmJanelas() {
+    executar("INSERT INTO Portadores (btCodigoInf, sNome) VALUES (1, 'Carteira')");
+    executar("INSERT INTO CentroCusto (btCodigoInf, sDescricao) VALUES (1, 'Loja')");
+    executar(
+        "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (1, 3, 30, 0)");
+    for (const auto& [codigo, nome] : {std::pair("1", "Açougue São João"), std::pair("2", "Bar do Élio")}) {
+      const std::string inicio = std::string(codigo) + ", '" + nome + "', ";
+      executar(
+          "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
+          "lCidadeEntrega, lCidadeCobranca) VALUES (" +
+          inicio + "0, #08/12/1975#, 1, 1, 1, 1, 1)");
+      executar("INSERT INTO Fornecedores (lCodigoInf, sNome, lCategoria, lCidade, lBanco) VALUES (" + inicio +
+               "1, 1, 1)");
+    }
+  }
+
+  /// Once a box with that text, or the screen of that name, is on top and waits for the person.
+  void aoSurgir(const std::string& sOQue, std::function<void()> ato) {
+    auto* const vigia = new QTimer(&host);
+    QObject::connect(vigia, &QTimer::timeout, &host, [this, vigia, sOQue, ato = std::move(ato)] {
+      const MessageBox* caixa = host.openBox();
+      if (caixa != nullptr ? caixa->text.find(sOQue) == std::string::npos
+                           : host.activeScreen() == nullptr || host.activeScreen()->sGetName() != sOQue)
+        return;
+      vigia->stop();
+      vigia->deleteLater();
+      host.enter(ato);
+    });
+    vigia->start(0);
+  }
+  /// The default answer of the box with that text, when it comes.
+  void responderA(const std::string& sTexto) {
+    aoSurgir(sTexto, [this] { press(host, Qt::Key_Return); });
+  }
+  /// Space in the lookup box that has the keyboard, and in its quick search the first row that what is typed finds.
+  void buscar(const std::string& sInicio) {
+    whenOpened(host, [this, sInicio] {
+      type(host, sInicio);
+      press(host, Qt::Key_F6);
+      irPara(*host.activeScreen()->control("lstLista"));
+      press(host, Qt::Key_Space);
+      press(host, Qt::Key_Space);
+    });
+    tecla(Qt::Key_Space);
+  }
+  std::string valor(const std::string& sSQL) { return Recordset(sSQL, programa.dbEmpresa().Dados()).field(0).toText(); }
+
+  const Lado& lado = GetParam()();
+};
+
+TEST_P(TitulosEmJanelas, AnInvoiceIsTypedAndItsFirstTitleSettledByKeysAlone) {
+  auto& fatura = dynamic_cast<TelaFaturas&>(abrir(lado.faturas.sNome));
+  ASSERT_TRUE(fatura.txtNumeroFatura.hasFocus());
+  escrever("77");
+  tecla(Qt::Key_Return);
+  escrever("01032026");
+  tecla(Qt::Key_Return);
+  escrever("900,00");
+  irPara(fatura.entidades.pessoa.caixa);
+  buscar("bar");
+  ASSERT_TRUE(fatura.txtCondPagCodigoInf.hasFocus());
+  buscar("1");
+  ASSERT_TRUE(fatura.entidades.portador.caixa.hasFocus());
+  buscar("cart");
+  if (lado.bVendedor) buscar("vend");
+  ASSERT_TRUE(fatura.entidades.centroCusto.caixa.hasFocus());
+  buscar("lo");
+
+  responderA("Deseja visualizar os títulos");
+  aoSurgir(lado.titulos.sNome, [&] {
+    auto& titulos = dynamic_cast<TelaTitulosCadastro&>(*host.activeScreen());
+    ASSERT_EQ(titulos.lstLista.items().size(), 3u);
+    irPara(titulos.lstLista);
+    press(host, Qt::Key_Space);
+    EXPECT_EQ(titulos.txtCodigoInf.text(), "000001/001");
+    press(host, Qt::Key_A, Qt::AltModifier);  // Valor p_a_go
+    ASSERT_TRUE(titulos.txtValorPago.hasFocus());
+    type(host, "300,00");
+    responderA("Confirma o pagamento do título?");
+    responderA("Operação concluída.");
+    press(host, Qt::Key_F3);
+    EXPECT_EQ(titulos.lGetCodigo(), -1) << "saved, and a new title begun";
+    responderA("Operação concluída.");
+    press(host, Qt::Key_Escape);
+  });
+  tecla(Qt::Key_F3);
+
+  EXPECT_EQ(valor("SELECT lNumeroFatura FROM " + lado.sFaturas), "77");
+  EXPECT_EQ(valor("SELECT FORMAT(dtEmissao, 'dd/mm/yyyy') AS E FROM " + lado.sFaturas), "01/03/2026");
+  EXPECT_EQ(valor("SELECT " + lado.sChavePessoa + " FROM " + lado.sFaturas), "2");
+  EXPECT_EQ(valor("SELECT COUNT(lCodigo) FROM " + lado.sTitulos), "3");
+  EXPECT_EQ(valor("SELECT sCodigoInf FROM " + lado.sTitulos + " WHERE fValorPago = 300"), "000001/001");
+  fatura.unload();
+}
+
+INSTANTIATE_TEST_SUITE_P(Lados, TitulosEmJanelas, testing::Values(&ladoReceber, &ladoPagar),
+                         [](const auto& caso) { return caso.param().sTitulos; });
+
+}  // namespace
+}  // namespace fenvale::qt
