@@ -186,8 +186,8 @@ class Copy {
     brokenOff_ = false;
   }
   void tellChecking() {
-    constexpr std::int64_t pagesAtOnce = 100;
-    checked_ = std::min(checked_ + pagesAtOnce, pages_ - 1);
+    constexpr std::int64_t pagesBetween = 50;
+    checked_ = std::min(checked_ + pagesBetween, pages_ - 1);
     tell(2 * pages_ + checked_);
   }
 
