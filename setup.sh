@@ -19,10 +19,10 @@ testes=(
   libgtest-dev libgmock-dev
   xvfb openbox xdotool x11-utils xauth
   cups cups-client printer-driver-cups-pdf
-  python3 python3-aiosmtpd openssl poppler-utils libxml2-utils
+  python3 python3-aiosmtpd openssl poppler-utils mupdf-tools qpdf libxml2-utils
   desktop-file-utils appstream man-db
 )
-bancada=(libbenchmark-dev)
+bancada=(libbenchmark-dev enscript ghostscript)
 analise=(clang clang-tidy clang-format lld)
 pacote=(dpkg-dev file)
 # Shortens a second build; a release that lacks it builds as well without.

@@ -223,6 +223,67 @@ void write(const std::string& path, std::string_view bytes) {
   syncFolder(partial.target);
 }
 
+void append(const std::string& path, std::string_view bytes) {
+  const std::string native = nativePath(path);
+  Descriptor file(::open(native.c_str(), O_WRONLY | O_CREAT | O_APPEND | O_CLOEXEC, 0666));
+  if (file.number() < 0 || !writeAll(file.number(), bytes) || file.close() != 0)
+    fail(errno, "gravar o arquivo", native);
+}
+
+std::uint64_t size(const std::string& path) {
+  const std::string native = nativePath(path);
+  const Descriptor file(::open(native.c_str(), O_RDONLY | O_CLOEXEC));
+  struct stat status {};
+  if (file.number() < 0 || ::fstat(file.number(), &status) != 0) fail(errno, "abrir o arquivo", native);
+  if (S_ISDIR(status.st_mode)) fail(EISDIR, "abrir o arquivo", native);
+  return static_cast<std::uint64_t>(status.st_size);
+}
+
+struct LineReader::Source {
+  Source(std::string nativeName, int number) : path(std::move(nativeName)), file(number) {}
+  std::string path;
+  Descriptor file;
+};
+
+LineReader::LineReader(const std::string& path) : block_(65536, '\0') {
+  std::string native = nativePath(path);
+  const int number = ::open(native.c_str(), O_RDONLY | O_CLOEXEC);
+  if (number < 0) fail(errno, "abrir o arquivo", native);
+  source_ = std::make_unique<Source>(std::move(native), number);
+}
+
+LineReader::~LineReader() = default;
+
+bool LineReader::fill() {
+  ssize_t count = 0;
+  do count = ::read(source_->file.number(), block_.data(), block_.size());
+  while (count < 0 && errno == EINTR);
+  if (count < 0) fail(errno, "ler o arquivo", source_->path);
+  place_ = 0;
+  end_ = static_cast<std::size_t>(count);
+  return count > 0;
+}
+
+bool LineReader::next(std::string& line) {
+  line.clear();
+  while (place_ < end_ || fill()) {
+    if (std::exchange(afterReturn_, false) && block_[place_] == '\n') {
+      ++place_;
+      continue;
+    }
+    const char* const begin = block_.data() + place_;
+    const char* const stop = std::find_if(begin, static_cast<const char*>(block_.data() + end_),
+                                          [](char c) { return c == '\r' || c == '\n'; });
+    line.append(begin, stop);
+    place_ += static_cast<std::size_t>(stop - begin);
+    if (place_ < end_) {
+      afterReturn_ = block_[place_++] == '\r';
+      return true;
+    }
+  }
+  return !line.empty();
+}
+
 void remove(const std::string& path) {
   const std::string native = nativePath(path);
   if (::unlink(native.c_str()) != 0 && errno != ENOENT && errno != ENOTDIR) fail(errno, "apagar o arquivo", native);

@@ -2,6 +2,7 @@
 // Files and folders. Every path may be written with "\" or "/", and a name that is not there as written is looked for
 // without regard to case; paths that are given back use "/". Failures are Errors with a sentence in Portuguese.
 
+#include <cstdint>
 #include <memory>
 #include <string>
 #include <string_view>
@@ -44,6 +45,34 @@ class Writer {
   friend void files::write(const std::string& path, std::string_view bytes);
   struct Partial;
   std::unique_ptr<Partial> partial_;
+};
+
+/// Adds to the end of a file, which is made when it is not there. Of bytes that do not all find room some are added
+/// all the same. Errors as of write().
+void append(const std::string& path, std::string_view bytes);
+
+/// How many bytes there are in a file that can be read. Error 53, 75.
+std::uint64_t size(const std::string& path);
+
+/// A file's lines one after the other, broken as lines() breaks them; no more than a block and a line of it is held.
+class LineReader {
+ public:
+  /// Error 53 when the file is not there, 75 when it cannot be read.
+  explicit LineReader(const std::string& path);
+  ~LineReader();
+  LineReader(const LineReader&) = delete;
+  LineReader& operator=(const LineReader&) = delete;
+  /// False behind the last line. Error 75.
+  bool next(std::string& line);
+
+ private:
+  bool fill();
+  struct Source;
+  std::unique_ptr<Source> source_;
+  std::string block_;
+  std::size_t place_ = 0;
+  std::size_t end_ = 0;
+  bool afterReturn_ = false;
 };
 
 /// Nothing happens when it is not there. Error 75.

@@ -204,6 +204,49 @@ TEST_F(Files, ADraftWithoutItsFolderIsTold) {
   EXPECT_EQ(failure([&] { draft.place(); }).description, sentence);
 }
 
+TEST_F(Files, BytesAreAddedToTheEndOfAFile) {
+  files::append(folder.arquivo("a.txt"), "um");
+  files::append(folder.arquivo("A.TXT"), "");
+  files::append(folder.arquivo("A.TXT"), " dois");
+  EXPECT_EQ(folder.ler("a.txt"), "um dois");
+  EXPECT_THAT(folder.nomes(), ElementsAre("a.txt"));
+  EXPECT_EQ(failure([&] { files::append(folder.arquivo("nada/a.txt"), "x"); }).number, errors::fileNotFound);
+  EXPECT_EQ(failure([&] { files::append(folder.caminho(), "x"); }).number, errors::fileAccess);
+  const ShortDisk disk(4096);
+  EXPECT_EQ(failure([&] { files::append(folder.arquivo("a.txt"), std::string(100000, 'x')); }).number,
+            errors::fileAccess);
+  EXPECT_EQ(folder.ler("a.txt"), "um dois" + std::string(4096 - 7, 'x'));
+}
+
+TEST_F(Files, TellTheirSize) {
+  folder.gravar("a.txt", std::string(70000, 'x'));
+  folder.gravar("vazio.txt", "");
+  EXPECT_EQ(files::size(folder.arquivo("A.txt")), 70000U);
+  EXPECT_EQ(files::size(folder.arquivo("vazio.txt")), 0U);
+  EXPECT_EQ(failure([&] { (void)files::size(folder.arquivo("nada.txt")); }).number, errors::fileNotFound);
+  EXPECT_EQ(failure([&] { (void)files::size(folder.caminho()); }).number, errors::fileAccess);
+}
+
+TEST_F(Files, AreReadLineByLineAsTheirTextIsBroken) {
+  const std::string block(65535, '.');
+  for (const std::string& text : {std::string(), std::string("a"), std::string("a\r\nb\rc\n\nd\n\r\r\n"),
+                                  std::string("\n"), std::string("\0x\r", 3), block + "\r\nb\r\n", block + ".\r\n",
+                                  block + "\r", block + "\rb", block + block + "\n" + block}) {
+    folder.gravar("a.txt", text);
+    std::vector<std::string> found;
+    files::LineReader reader(folder.arquivo("A.TXT"));
+    for (std::string line; reader.next(line);) found.push_back(line);
+    EXPECT_EQ(found, files::lines(text));
+    std::string line = "x";
+    EXPECT_FALSE(reader.next(line)) << "behind the end";
+    EXPECT_EQ(line, "");
+  }
+  EXPECT_EQ(failure([&] { const files::LineReader reader(folder.arquivo("nada.txt")); }).number, errors::fileNotFound);
+  files::LineReader reader(folder.caminho());
+  std::string line;
+  EXPECT_EQ(failure([&] { reader.next(line); }).number, errors::fileAccess);
+}
+
 TEST_F(Files, FoldersAreMadeWithThoseAboveThem) {
   files::createFolder(folder.caminho() + "\\a\\b");
   EXPECT_TRUE(fs::is_directory(folder.arquivo("a/b")));
