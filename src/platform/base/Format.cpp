@@ -7,7 +7,7 @@ namespace {
 
 std::size_t zeros(std::string_view mask) { return static_cast<std::size_t>(std::count(mask.begin(), mask.end(), '0')); }
 
-std::string padded(std::string digits, std::size_t width) {
+std::string padded(const std::string& digits, std::size_t width) {
   return digits.size() < width ? std::string(width - digits.size(), '0') + digits : digits;
 }
 
@@ -35,7 +35,7 @@ std::string format(std::uint64_t magnitude, unsigned scale, bool negative, std::
   for (unsigned place = 0; place < scale; ++place) weight *= 10;
 
   std::string whole = magnitude / weight == 0 ? std::string() : std::to_string(magnitude / weight);
-  whole = padded(std::move(whole), zeros(wholeMask));
+  whole = padded(whole, zeros(wholeMask));
   if (wholeMask.find(',') != std::string_view::npos) whole = grouped(whole);
 
   std::string text = std::move(whole);

@@ -15,6 +15,7 @@ LayoutNode bareOf(Control* control) { return {LayoutNode::Kind::bare, {}, contro
 
 LayoutNode rowOf(const std::vector<Control*>& controls) {
   std::vector<LayoutNode> children;
+  children.reserve(controls.size());
   for (Control* control : controls) children.push_back(bareOf(control));
   return group(LayoutNode::Kind::row, {}, std::move(children));
 }
@@ -56,7 +57,7 @@ LayoutNode paginas(PageScroll& pages, ProgressBar& progress) {
   return {LayoutNode::Kind::pages, {}, &pages, {&progress}, 0, {}};
 }
 
-LayoutNode botoes(std::vector<Control*> atLeft, std::vector<Control*> atRight) {
+LayoutNode botoes(const std::vector<Control*>& atLeft, const std::vector<Control*>& atRight) {
   return group(LayoutNode::Kind::footer, {}, {rowOf(atLeft), rowOf(atRight)});
 }
 

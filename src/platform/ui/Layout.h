@@ -56,6 +56,6 @@ LayoutNode aba(std::string caption, std::vector<LayoutNode> children);
 LayoutNode lista(Control& list, std::string accessibleName = {});
 LayoutNode paginas(PageScroll& pages, ProgressBar& progress);
 /// The foot of the screen: commands at the left, the way out at the right.
-LayoutNode botoes(std::vector<Control*> atLeft, std::vector<Control*> atRight);
+LayoutNode botoes(const std::vector<Control*>& atLeft, const std::vector<Control*>& atRight);
 
 }  // namespace fenvale

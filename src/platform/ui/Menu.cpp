@@ -75,7 +75,7 @@ void ToolBar::userClick(std::string_view key) {
   }
 }
 
-void StatusBar::setPanel(std::string_view panelName, std::string text) {
+void StatusBar::setPanel(std::string_view panelName, const std::string& text) {
   for (Panel& panel : panels_)
     if (panel.name == panelName) panel.text = text;
   changed(Aspect::content);

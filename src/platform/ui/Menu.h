@@ -93,7 +93,7 @@ class StatusBar final : public Control {
   ControlKind kind() const override { return ControlKind::statusBar; }
   bool takesFocus() const override { return false; }
   const std::vector<Panel>& panels() const { return panels_; }
-  void setPanel(std::string_view panelName, std::string text);
+  void setPanel(std::string_view panelName, const std::string& text);
 
  private:
   std::vector<Panel> panels_;

@@ -19,7 +19,7 @@ std::unique_ptr<TextControl> caixa(Screen& tela, const std::string& sNome, Campo
 
 }  // namespace
 
-CampoCidade::CampoCidade(Screen& tela, Contexto& contexto, Modo modo, bool bEmpresa, NomesCampoCidade nomes)
+CampoCidade::CampoCidade(Screen& tela, Contexto& contexto, Modo modo, bool bEmpresa, const NomesCampoCidade& nomes)
     : caixaCidade_(caixa(tela, nomes.sCidade, modo, 255)),
       caixaUF_(caixa(tela, nomes.sUF, modo, 2)),
       txtCidade(*caixaCidade_),

@@ -30,7 +30,7 @@ class CampoCidade {
     digitado,  ///< typed; leaving a box looks the pair up
     busca,     ///< lookup boxes: Space searches, Delete empties
   };
-  CampoCidade(Screen& tela, Contexto& contexto, Modo modo, bool bEmpresa, NomesCampoCidade nomes = {});
+  CampoCidade(Screen& tela, Contexto& contexto, Modo modo, bool bEmpresa, const NomesCampoCidade& nomes = {});
   CampoCidade(const CampoCidade&) = delete;
   CampoCidade& operator=(const CampoCidade&) = delete;
 

@@ -102,12 +102,13 @@ void frmLocalizarArquivo::bVerificarArquivosPossiveis() try {
 void frmLocalizarArquivo::vListarPasta(const std::string& sPasta) {
   if (!files::isFolder(sPasta)) throw Error(dispositivoNaoPronto, "A pasta " + sPasta + " não pode ser lida.");
   flstListaArquivos.setPath(sPasta);
+  const std::string sInicio = files::endsWithSeparator(sPasta) ? sPasta : sPasta + files::separator;
   const auto nomes = flstListaArquivos.files();
   pbBarra1.setValue(0);
   pbBarra1.setMaximum(std::max<std::int32_t>(1, toInt32(static_cast<std::int64_t>(nomes.size()))));
   for (const std::string& sNome : nomes) {
     host().doEvents();
-    vIncluirNaLista((files::endsWithSeparator(sPasta) ? sPasta : sPasta + files::separator) + sNome);
+    vIncluirNaLista(sInicio + sNome);
     pbBarra1.setValue(pbBarra1.value() + 1);
   }
   pbBarra1.setValue(0);

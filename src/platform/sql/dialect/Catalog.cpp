@@ -42,6 +42,7 @@ void addIndex(TableDescription& table, IndexDescription index) {
 
 std::vector<CreateIndexStatement::Column> ascending(const std::vector<std::string>& names) {
   std::vector<CreateIndexStatement::Column> columns;
+  columns.reserve(names.size());
   for (const std::string& name : names) columns.push_back({name, false});
   return columns;
 }

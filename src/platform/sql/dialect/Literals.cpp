@@ -95,7 +95,7 @@ std::string quotedName(std::string_view name) {
   const bool plain = name.find_first_of("'\"[]# \t\r\n") == std::string_view::npos &&
                      name.find_first_not_of("0123456789") != std::string_view::npos;
   if (plain) {
-    const std::string text(name);
+    std::string text(name);
     bool whole = true;
     for (char letter : text)
       whole = whole && (static_cast<unsigned char>(letter) >= 0x80 || letter == '_' || letter == '$' ||

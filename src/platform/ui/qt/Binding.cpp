@@ -1,5 +1,8 @@
 #include "platform/ui/qt/Binding.h"
 
+#include <QAbstractItemView>
+#include <QEvent>
+
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/QtHost.h"
 #include "platform/ui/qt/ScreenWindow.h"
@@ -14,7 +17,10 @@ Binding::Binding(QtHost& host, Control& control, QWidget& widget)
   widget.installEventFilter(this);
 }
 
-Binding::~Binding() { release(); }
+Binding::~Binding() {
+  // No letGo(): what it would stop belonged to the derived part, which is gone.
+  if (control_ != nullptr) control_->detach(*this);
+}
 
 void Binding::release() {
   if (control_ == nullptr) return;

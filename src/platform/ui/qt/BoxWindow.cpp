@@ -1,5 +1,19 @@
 #include "platform/ui/qt/BoxWindow.h"
 
+#include <QClipboard>
+#include <QCloseEvent>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QPainter>
+#include <QPixmap>
+#include <QPushButton>
+#include <QScrollArea>
+#include <QShowEvent>
+#include <QVBoxLayout>
+#include <string>
+
 #include "platform/ui/qt/QtHost.h"
 #include "platform/ui/qt/Strings.h"
 

@@ -6,6 +6,7 @@
 
 #include "platform/ui/UiHost.h"
 
+class QHBoxLayout;
 class QPushButton;
 
 namespace fenvale::qt {
@@ -27,7 +28,7 @@ class BoxWindow final : public QWidget {
 
  private:
   QWidget* textPart();
-  void addButton(class QHBoxLayout& row, const QString& caption, BoxAnswer answer);
+  void addButton(QHBoxLayout& row, const QString& caption, BoxAnswer answer);
   void give(BoxAnswer answer);
 
   QtHost& host_;

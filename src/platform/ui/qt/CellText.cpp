@@ -1,5 +1,10 @@
 #include "platform/ui/qt/CellText.h"
 
+#include <QFontMetricsF>
+#include <QPainter>
+#include <algorithm>
+#include <vector>
+
 namespace fenvale::qt {
 namespace {
 

@@ -1,5 +1,23 @@
 // What is pressed or ticked, and what only shows.
 
+#include <QAbstractButton>
+#include <QCheckBox>
+#include <QLabel>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPixmap>
+#include <QPushButton>
+#include <QRadioButton>
+#include <QResizeEvent>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionButton>
+#include <QStylePainter>
+#include <algorithm>
+#include <functional>
+#include <string>
+
 #include "platform/ui/Choices.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/Binding.h"

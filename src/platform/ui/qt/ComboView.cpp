@@ -1,5 +1,12 @@
 // A list of entries that is searched by typing: the screen decides what each typed character does.
 
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPaintEvent>
+#include <QPainter>
+#include <functional>
+
 #include "platform/ui/Choices.h"
 #include "platform/ui/qt/Binding.h"
 #include "platform/ui/qt/HouseStyle.h"

@@ -1,5 +1,19 @@
 // A day: typed as dd/mm/aaaa, one day on or back with the arrow keys, or picked from a calendar.
 
+#include <QAction>
+#include <QCalendarWidget>
+#include <QClipboard>
+#include <QDate>
+#include <QFrame>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QTextCharFormat>
+#include <QToolButton>
+#include <QVBoxLayout>
+#include <algorithm>
+#include <functional>
+
 #include "platform/base/Date.h"
 
 #include "platform/ui/Boxes.h"

@@ -1,5 +1,9 @@
 // Boxes that hold a text: one line edit told by a few facts of its kind, and the box of several lines.
 
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+
 #include "platform/ui/Boxes.h"
 #include "platform/ui/qt/Binding.h"
 #include "platform/ui/qt/QtHost.h"
@@ -39,8 +43,8 @@ class EditBinding final : public BindingOf<TextControl, QLineEdit> {
     if (aspect != Aspect::content || view().text() == text) return;
     const int caret = caretIn(text, view().text(), view().cursorPosition());
     view().setText(text);
-    // What the rules put there reads from its beginning. Whether the window is the active one says nothing here: a window
-    // manager may lag behind the keys.
+    // What the rules put there reads from its beginning. Whether the window is the active one says nothing here: a
+    // window manager may lag behind the keys.
     view().setCursorPosition(typing_ ? caret : 0);
   }
 

@@ -1,5 +1,11 @@
 #include "platform/ui/qt/HouseStyle.h"
 
+#include <QPainter>
+#include <QPen>
+#include <QPolygonF>
+#include <QStyleOption>
+#include <QWidget>
+
 #include "platform/ui/qt/Theme.h"
 
 namespace fenvale::qt {

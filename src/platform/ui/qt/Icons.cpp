@@ -1,5 +1,9 @@
 #include "platform/ui/qt/Icons.h"
 
+#include <QFile>
+#include <QIconEngine>
+#include <QPainter>
+#include <QPixmap>
 #include <QSvgRenderer>
 
 #include "platform/ui/qt/Strings.h"

@@ -1,5 +1,6 @@
 #include "platform/ui/qt/KeyMap.h"
 
+#include <QKeyEvent>
 #include <array>
 
 namespace fenvale::qt {

@@ -1,5 +1,13 @@
 #include "platform/ui/qt/LayoutBuilder.h"
 
+#include <QGroupBox>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QTabBar>
+#include <QTabWidget>
+#include <QVBoxLayout>
+#include <algorithm>
+
 #include "platform/ui/Choices.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/Binding.h"

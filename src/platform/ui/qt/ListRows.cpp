@@ -1,5 +1,7 @@
 #include "platform/ui/qt/ListRows.h"
 
+#include <memory>
+
 #include "platform/ui/ListView.h"
 #include "platform/ui/qt/Strings.h"
 #include "platform/ui/qt/Theme.h"

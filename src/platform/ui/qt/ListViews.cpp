@@ -1,5 +1,25 @@
 // The list in report style. The cursor moves with the arrow keys and picks nothing; the mouse and Space pick.
 
+#include <QClipboard>
+#include <QGuiApplication>
+#include <QHeaderView>
+#include <QHelpEvent>
+#include <QItemSelectionModel>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QSignalBlocker>
+#include <QStyle>
+#include <QStyleOptionViewItem>
+#include <QStyledItemDelegate>
+#include <QTimer>
+#include <QToolTip>
+#include <QTreeView>
+#include <algorithm>
+#include <cmath>
+#include <functional>
 #include <numeric>
 
 #include "platform/ui/ListView.h"

@@ -1,5 +1,14 @@
 #include "platform/ui/qt/MenuViews.h"
 
+#include <QAction>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QMenu>
+#include <QMenuBar>
+#include <QResizeEvent>
+#include <QToolBar>
+#include <algorithm>
+
 #include "platform/ui/Menu.h"
 #include "platform/ui/qt/Binding.h"
 #include "platform/ui/qt/QtHost.h"

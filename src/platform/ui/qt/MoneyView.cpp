@@ -1,6 +1,18 @@
 // An amount, typed as on a cash register: digits push in from the right, a comma says that what stands there are whole
 // reais. "30000" and "300,00" both give 300,00.
 
+#include <QAction>
+#include <QClipboard>
+#include <QContextMenuEvent>
+#include <QFocusEvent>
+#include <QGuiApplication>
+#include <QKeyEvent>
+#include <QLineEdit>
+#include <QMenu>
+#include <QMouseEvent>
+#include <functional>
+#include <memory>
+
 #include "platform/ui/Boxes.h"
 #include "platform/ui/qt/Binding.h"
 #include "platform/ui/qt/QtHost.h"

@@ -1,5 +1,9 @@
 #include "platform/ui/qt/Portuguese.h"
 
+#include <QApplication>
+#include <QLibraryInfo>
+#include <QLocale>
+#include <QTranslator>
 #include <string_view>
 
 namespace fenvale::qt {

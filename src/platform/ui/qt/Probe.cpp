@@ -1,5 +1,12 @@
 #include "platform/ui/qt/Probe.h"
 
+#include <QApplication>
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPointer>
+#include <QTimer>
+#include <QTreeView>
+
 #include "platform/ui/Control.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/QtHost.h"

@@ -1,5 +1,15 @@
 // Progress bars and the page selector.
 
+#include <QHBoxLayout>
+#include <QKeyEvent>
+#include <QLabel>
+#include <QLocale>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QSignalBlocker>
+#include <QToolButton>
+#include <QVBoxLayout>
+
 #include "platform/ui/Choices.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/Binding.h"

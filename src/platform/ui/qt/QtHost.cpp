@@ -1,5 +1,15 @@
 #include "platform/ui/qt/QtHost.h"
 
+#include <QApplication>
+#include <QEventLoop>
+#include <QKeyEvent>
+#include <QMenu>
+#include <QPushButton>
+#include <QScreen>
+#include <QTimer>
+#include <algorithm>
+#include <string>
+
 #include "platform/ui/Control.h"
 #include "platform/ui/Menu.h"
 #include "platform/ui/Screen.h"

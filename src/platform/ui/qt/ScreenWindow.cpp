@@ -1,5 +1,21 @@
 #include "platform/ui/qt/ScreenWindow.h"
 
+#include <QCloseEvent>
+#include <QFileInfo>
+#include <QFrame>
+#include <QGuiApplication>
+#include <QHBoxLayout>
+#include <QLabel>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QPointer>
+#include <QScrollArea>
+#include <QSettings>
+#include <QStyle>
+#include <QStyleOption>
+#include <QVBoxLayout>
+#include <algorithm>
+
 #include "platform/ui/Choices.h"
 #include "platform/ui/Menu.h"
 #include "platform/ui/Screen.h"

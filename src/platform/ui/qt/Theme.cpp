@@ -1,6 +1,10 @@
 #include "platform/ui/qt/Theme.h"
 
+#include <QFontDatabase>
+#include <QGuiApplication>
+#include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace fenvale::qt {
 namespace {

@@ -1,5 +1,7 @@
 #include "platform/ui/qt/TimerTicks.h"
 
+#include <QWidget>
+
 #include "platform/ui/qt/QtHost.h"
 
 namespace fenvale::qt {

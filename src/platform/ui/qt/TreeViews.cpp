@@ -1,5 +1,15 @@
 // Trees with ticks, and the places of the file system.
 
+#include <QComboBox>
+#include <QKeyEvent>
+#include <QListWidget>
+#include <QPaintEvent>
+#include <QPainter>
+#include <QTreeWidget>
+#include <algorithm>
+#include <map>
+#include <string>
+
 #include "platform/ui/Places.h"
 #include "platform/ui/TreeView.h"
 #include "platform/ui/qt/Binding.h"

@@ -1,5 +1,6 @@
 #include "platform/ui/qt/UnitRow.h"
 
+#include <QWidget>
 #include <algorithm>
 #include <numeric>
 
@@ -93,7 +94,7 @@ std::vector<int> UnitRow::widthsFor(int available, const std::vector<const Item*
     if (item->width <= 0) ++stretching;
   }
   int left = room - fixed, waiting = stretching;
-  for (std::size_t place = 0; place < shown.size(); ++place) {
+  for (std::size_t place = 0; place < shown.size() && waiting > 0; ++place) {
     if (shown[place]->width > 0) continue;
     widths[place] = std::max(left / waiting, least[place]);
     left -= widths[place];
