@@ -44,12 +44,13 @@ class Escritorio {
     createStore(pasta_ + "/Dados.MDB");
     programa_.dbConectar().Dados().open();
     for (const XmlElement& elemento : XmlDocument::load(sDados + "SQL.xmlSQL").elements("SQL"))
-      Recordset(elemento.children.at(0), programa_.dbConectar().Dados());
+      const Recordset passo(elemento.children.at(0), programa_.dbConectar().Dados());
     if (!programa_.empresas().bSetEmpresa(1, "empresa.MDB", pasta_ + "/", false))
       throw Error(errors::storeNotOpened, "The generated company was not opened.");
-    Recordset("INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (200, " +
-                  std::to_string(iParcelas) + ", 30, 0)",
-              programa_.dbEmpresa().Dados());
+    const Recordset condicao(
+        "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (200, " +
+            std::to_string(iParcelas) + ", 30, 0)",
+        programa_.dbEmpresa().Dados());
   }
   ~Escritorio() {
     std::error_code semImportancia;
@@ -81,16 +82,17 @@ void vSalvarPelaTela(Programa& programa) {
   const DadosSerie novos = serie(programa.relogio().today());
   const std::string sNumero = Sistema(programa).sGetProximoCodigoNumerico("FaturasCliente", "lNumeroFatura", 0, true);
   dados.beginTrans();
-  Recordset(sComandoInclusao("FaturasCliente", {{"lNumeroFatura", sNumero},
-                                                {"fTotal", Validacoes::sGetFloatSQL(novos.fTotal)},
-                                                {"fEntrada", "0"},
-                                                {"lCliente", "1"},
-                                                {"lCondicoesPagamento", "1"},
-                                                {"lPortador", "1"},
-                                                {"lVendedor", "1"},
-                                                {"lCentroCusto", "1"},
-                                                {"dtEmissao", "#" + Validacoes::sGetDataSQL(novos.dtEmissao) + "#"}}),
-            dados, CursorType::dynamic, LockType::pessimistic);
+  const Recordset inclusao(
+      sComandoInclusao("FaturasCliente", {{"lNumeroFatura", sNumero},
+                                          {"fTotal", Validacoes::sGetFloatSQL(novos.fTotal)},
+                                          {"fEntrada", "0"},
+                                          {"lCliente", "1"},
+                                          {"lCondicoesPagamento", "1"},
+                                          {"lPortador", "1"},
+                                          {"lVendedor", "1"},
+                                          {"lCentroCusto", "1"},
+                                          {"dtEmissao", "#" + Validacoes::sGetDataSQL(novos.dtEmissao) + "#"}}),
+      dados, CursorType::dynamic, LockType::pessimistic);
   std::int32_t lFatura = -1;
   gerador.fGetValorPago(lFatura);
   Titulos(programa).btGetOpcaoReparcelamento();

@@ -115,7 +115,7 @@ class Listas {
     const std::string sMarca = "UPDATE Portadores SET sNome = 'Carteira' WHERE lCodigo = 1";
     return mediana(vezes,
                    [&] {
-                     Recordset(sMarca, conexao_);
+                     const Recordset marca(sMarca, conexao_);
                      pelaTela(conexao_, consulta, 0, true);
                    }) -
            mediana(vezes, [&] { Recordset(sMarca, conexao_); });

@@ -27,7 +27,8 @@ Currency fTotalSorteado(Sorteio& sorteio) {
   const auto [menor, maior] = faixas[sorteio.ate(faixas.size())];
   const int reais = sorteio.entre(menor, maior);
   const int final = centavos[sorteio.ate(centavos.size())];
-  return Currency::fromUnits(std::int64_t{reais} * 10000 + (final < 0 ? sorteio.entre(1, 98) : final) * 100);
+  const std::int64_t quebra = final < 0 ? sorteio.entre(1, 98) : final;
+  return Currency::fromUnits(std::int64_t{reais} * 10000 + quebra * 100);
 }
 
 Currency emCentavos(double valor) { return roundToCents(valor); }

@@ -26,8 +26,8 @@ Duracao meio(std::vector<Duracao> tempos) {
 
 Duracao mediana(int vezes, const std::function<void()>& tarefa) {
   tarefa();
-  std::vector<Duracao> tempos;
-  for (int i = 0; i < vezes; ++i) tempos.push_back(cronometrar(tarefa));
+  std::vector<Duracao> tempos(static_cast<std::size_t>(vezes));
+  for (Duracao& tempo : tempos) tempo = cronometrar(tarefa);
   return meio(std::move(tempos));
 }
 

@@ -17,7 +17,7 @@ JanelaExemplo::JanelaExemplo(UiHost& host, std::string figura)
                 {"sair", "Sair", "sair", "Sair do programa"}}) {
   setCaption("Gestor Fenvale");
   setBackground(std::move(figura));
-  const auto escolhe = [this](std::string nome) { return [this, nome] { escolhido = nome; }; };
+  const auto escolhe = [this](const char* nome) { return [this, nome] { escolhido = nome; }; };
   mnuBarra.setItems(
       {{"mnuCadastroS",
         "&Cadastros",

@@ -1,6 +1,7 @@
 #include "demo/AnoDeNegocios.h"
 
 #include <array>
+#include <cstdint>
 #include <optional>
 
 #include "demo/Plataforma.h"
@@ -26,7 +27,7 @@ Currency fTotalSorteado(Sorteio& sorteio) {
   const auto [menor, maior] = faixas[sorteio.ate(faixas.size())];
   constexpr std::array<int, 4> centavos{0, 50, 90, 99};
   return Currency::fromUnits(std::int64_t{sorteio.entre(menor, maior)} * 10000 +
-                             centavos[sorteio.ate(centavos.size())] * 100);
+                             std::int64_t{centavos[sorteio.ate(centavos.size())]} * 100);
 }
 
 /// How many days behind the due date a customer pays, negative before it; nothing for who does not pay at all. Most

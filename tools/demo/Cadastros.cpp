@@ -112,6 +112,7 @@ template <std::size_t N>
 std::vector<std::int32_t> incluirNomes(Contexto& contexto, const char* sTabela, const char* sCampo,
                                        const std::array<std::string_view, N>& nomes) {
   std::vector<std::int32_t> chaves;
+  chaves.reserve(N);
   for (const std::string_view sNome : nomes)
     chaves.push_back(lIncluir(contexto, sTabela, "btCodigoInf", {{sCampo, sTexto(std::string(sNome))}}));
   return chaves;
@@ -148,6 +149,7 @@ std::vector<std::int32_t> incluirClientes(Contexto& contexto, const std::vector<
                                           const std::vector<std::int32_t>& chavesVendedores) {
   Sistema sistema(contexto);
   std::vector<std::int32_t> chavesCidades;
+  chavesCidades.reserve(cidades.size());
   for (const CidadeDaRegiao& cidade : cidades) chavesCidades.push_back(lCidade(contexto.dbEmpresa().Dados(), cidade));
   std::vector<std::int32_t> clientes;
   for (std::uint32_t i = 0; i < quantosClientes; ++i) {

@@ -1,6 +1,7 @@
 #include "exemplo/Pessoas.h"
 
 #include <array>
+#include <cstdint>
 #include <string_view>
 
 #include "exemplo/Sorteio.h"
@@ -204,7 +205,7 @@ void preencherPessoa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
   if (sorteio.porCento(60)) cliente.sMae = left(sNomeCompleto(sorteio, true), 50);
   cliente.dtNascimento = makeDate(1940, 1, 1) + std::chrono::days(sorteio.entre(0, 24000));
   if (sorteio.porCento(55)) cliente.sEmail = sApelidoRede(cliente.sNome) + "@correio.example";
-  cliente.fLimiteCredito = Currency::fromInteger(sorteio.entre(2, 60) * 100);
+  cliente.fLimiteCredito = Currency::fromInteger(std::int64_t{sorteio.entre(2, 60)} * 100);
 }
 
 void preencherEmpresa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
@@ -219,7 +220,7 @@ void preencherEmpresa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
   const std::string sRede = sApelidoRede(cliente.sNome);
   if (sorteio.porCento(70)) cliente.sEmail = "contato@" + sRede + ".example";
   if (sorteio.porCento(35)) cliente.sHomePage = "www." + sRede + ".example";
-  cliente.fLimiteCredito = Currency::fromInteger(sorteio.entre(2, 100) * 1000);
+  cliente.fLimiteCredito = Currency::fromInteger(std::int64_t{sorteio.entre(2, 100)} * 1000);
 }
 
 }  // namespace

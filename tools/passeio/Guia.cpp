@@ -63,6 +63,12 @@ std::vector<std::string> linhasDe(const ListView& lista) {
   return linhas;
 }
 
+std::string diferencaNaLinha(std::size_t numero, const std::string& lista, const std::string& esperada,
+                             const std::string& vista) {
+  return "linha " + std::to_string(numero) + " de " + lista + ": esperava \"" + esperada + "\", mas há \"" + vista +
+         "\"";
+}
+
 }  // namespace
 
 void Guia::falhar(const std::string& texto) { throw Diferenca{texto}; }
@@ -125,7 +131,7 @@ std::string Guia::descrito(const Visto& visto) {
 Visto Guia::esperar(const std::string& oque, const std::function<bool(const Visto&)>& chegou) {
   const auto limite = std::chrono::steady_clock::now() + paciencia;
   for (;;) {
-    const Visto visto = olhar();
+    Visto visto = olhar();
     if (chegou(visto)) return visto;
     if (visto.caixa || std::chrono::steady_clock::now() > limite)
       falhar("esperava " + oque + ", mas há " + descrito(visto));
@@ -188,9 +194,7 @@ void Guia::linhas(const std::string& lista, const std::vector<std::string>& espe
   for (std::size_t linha = 0; linha < std::max(vistas.size(), esperadas.size()); ++linha) {
     const std::string vista = linha < vistas.size() ? vistas[linha] : "(nenhuma)";
     const std::string esperada = linha < esperadas.size() ? esperadas[linha] : "(nenhuma)";
-    if (vista != esperada)
-      falhar("linha " + std::to_string(linha + 1) + " de " + lista + ": esperava \"" + esperada + "\", mas há \"" +
-             vista + "\"");
+    if (vista != esperada) falhar(diferencaNaLinha(linha + 1, lista, esperada, vista));
   }
 }
 

@@ -24,10 +24,11 @@ qt::QtHost& janelas(Contexto& programa) { return dynamic_cast<qt::QtHost&>(progr
 
 void retratarNosDoisTons(Guia& guia, Contexto& programa, const std::string& pasta, const std::string& tela) {
   guia.tela(tela);
+  const std::string inicio = pasta + "/" + tela;
   for (const auto& [tom, nome] :
        {std::pair(qt::Scheme::dark, "-escuro.png"), std::pair(qt::Scheme::light, "-claro.png")}) {
     bool feito = false;
-    guia.la([&, escolhido = tom, arquivo = pasta + "/" + tela + nome] {
+    guia.la([&, escolhido = tom, arquivo = inicio + nome] {
       janelas(programa).setScheme(escolhido);
       programa.host().doEvents();
       feito = qt::grab(janelas(programa), arquivo);
