@@ -1,5 +1,8 @@
 #include "access/screens/frmCadastroUsuarios.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "access/screens/frmLocalizarUsuarios.h"
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"

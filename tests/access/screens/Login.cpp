@@ -1,3 +1,5 @@
+#include <gtest/gtest.h>
+
 #include "access/screens/frmCadastroUsuarios.h"
 #include "access/screens/frmLogin.h"
 #include "access/services/Permissoes.h"

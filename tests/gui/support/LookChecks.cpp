@@ -1,5 +1,18 @@
 #include "gui/support/LookChecks.h"
 
+#include <QAbstractButton>
+#include <QAbstractItemView>
+#include <QAbstractScrollArea>
+#include <QApplication>
+#include <QComboBox>
+#include <QGroupBox>
+#include <QLabel>
+#include <QLineEdit>
+#include <QPlainTextEdit>
+#include <QProgressBar>
+#include <QScrollBar>
+#include <QTabBar>
+#include <QTabWidget>
 #include <QtWidgets>
 #include <algorithm>
 #include <set>

@@ -10,6 +10,8 @@
 #include "platform/ui/TreeView.h"
 #include "platform/ui/test/TestHost.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <unistd.h>
 
 #include <filesystem>

@@ -2,6 +2,9 @@
 
 #include "platform/ui/Screen.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "platform/base/Error.h"
 #include "platform/ui/Boxes.h"
 #include "platform/ui/Choices.h"

@@ -1,5 +1,8 @@
 // The full searches, the quick searches and the list of banks.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "Cadastros.h"
 #include "registers/screens/BuscaCodigoNome.h"
 #include "registers/screens/TelaBuscaRapida.h"

@@ -1,5 +1,8 @@
 // What only the register of customers has.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "Pessoas.h"
 #include "registers/screens/frmCadastroClientes.h"
 

@@ -2,6 +2,9 @@
 
 #include "registers/screens/CadastroCodigoNome.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "Cadastros.h"
 
 namespace fenvale {

@@ -1,5 +1,8 @@
 // The register of payment conditions and its searches.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "Cadastros.h"
 #include "registers/screens/frmCadastroCondicoesPagamento.h"
 #include "registers/screens/frmLocalizarCondicoesPagamento.h"

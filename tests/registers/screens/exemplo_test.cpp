@@ -1,5 +1,7 @@
 // The worked example of docs/architecture.md, word for word: a register that is added by describing it.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <fstream>
 
 #include "Cadastros.h"

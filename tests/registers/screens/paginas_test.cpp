@@ -1,5 +1,7 @@
 // The paged list of a register: pages, the selector, the sort, the widths.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <filesystem>
 #include <fstream>
 

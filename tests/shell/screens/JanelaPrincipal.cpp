@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <map>
 
 #include "access/services/Permissoes.h"

@@ -1,5 +1,7 @@
 #include "shell/screens/Lancador.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <filesystem>
 
 #include "access/screens/frmCadastroUsuarios.h"

@@ -1,5 +1,7 @@
 #include "shell/screens/MenuPrincipal.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <algorithm>
 #include <set>
 

@@ -1,3 +1,6 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "app/Registro.h"
 #include "platform/os/Process.h"
 #include "shell/screens/frmLocalizarBD.h"

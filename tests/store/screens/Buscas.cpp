@@ -1,3 +1,5 @@
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <filesystem>
 
 #include "access/services/Permissoes.h"

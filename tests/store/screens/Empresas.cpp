@@ -1,4 +1,6 @@
-#include "store/services/Empresas.h"
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
 #include "platform/os/Process.h"
@@ -11,6 +13,7 @@
 #include "store/screens/frmEmpresaNova.h"
 #include "store/screens/frmLocalizarArquivo.h"
 #include "store/services/DBConectar.h"
+#include "store/services/Empresas.h"
 #include "support/Caixas.h"
 #include "support/ProgramaDeTeste.h"
 
@@ -32,7 +35,7 @@ class Abrir : public TelasDeEmpresas {
     Connection conexao(StoreEnvironment{programa.relogio()});
     conexao.setConnectionString("Provider=x;Data Source=" + programa.pasta().arquivo(nome));
     conexao.open();
-    Recordset("INSERT INTO DadosEmpresa (sNome, lCidade) VALUES ('Loja', 1)", conexao);
+    const Recordset inclusao("INSERT INTO DadosEmpresa (sNome, lCidade) VALUES ('Loja', 1)", conexao);
     conexao.close();
     referencia(nome, pasta());
   }

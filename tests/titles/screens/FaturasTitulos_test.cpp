@@ -1,6 +1,9 @@
 // What a save of an invoice does to its titles: the two options, a change of condition, the preview inside the open
 // transaction, and failures in the middle.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "store/services/ConfiguracoesPrograma.h"
 #include "titles/screens/CenarioDeTelas.h"
 

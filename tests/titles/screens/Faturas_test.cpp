@@ -1,5 +1,8 @@
 // The invoice screen: its form, its list, what it refuses and what it writes.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "access/services/Permissoes.h"
 #include "titles/screens/CenarioDeTelas.h"
 

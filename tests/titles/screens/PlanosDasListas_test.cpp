@@ -1,5 +1,8 @@
 // What a list costs: every list without a filter is walked in the order of an index, however many rows it has.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "platform/sql/sqlite/Definitions.h"
 #include "platform/sql/sqlite/Translation.h"
 #include "registers/screens/CadastroCodigoNome.h"

@@ -1,5 +1,8 @@
 // The settlement of a title: the whole table of what a payment can be, and what it does to the invoice's other titles.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "titles/screens/CenarioDeTelas.h"
 #include "titles/services/Parcelas.h"
 

@@ -1,5 +1,8 @@
 // Deleting titles: the invoice shrinks with them and never loses the last one.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "access/services/Permissoes.h"
 #include "titles/screens/CenarioDeTelas.h"
 

@@ -1,5 +1,8 @@
 // The title screen: how it opens, what a row brings into the form, keys, interest, and the invoice it keeps showing.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "access/services/Permissoes.h"
 #include "shell/services/TelasDeApoio.h"
 #include "store/services/ConfiguracoesPrograma.h"

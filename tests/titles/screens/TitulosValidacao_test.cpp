@@ -1,5 +1,8 @@
 // What the title screen asks and refuses before it saves, in its order.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "titles/screens/CenarioDeTelas.h"
 
 namespace fenvale {

@@ -2,6 +2,9 @@
 
 #include "titles/services/GeradorTitulos.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "platform/base/Error.h"
 #include "titles/Cenario.h"
 

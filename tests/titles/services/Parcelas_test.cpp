@@ -2,6 +2,8 @@
 
 #include "titles/services/Parcelas.h"
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <numeric>
 #include <random>
 

@@ -52,7 +52,7 @@ TEST_F(Paging, TheCountFollowsTheWritesOfOthers) {
   Connection other{{clock, nullptr}};
   connect(other);
   EXPECT_EQ(count(connection), 300);
-  Recordset("DELETE * FROM Clientes WHERE lCodigo < 11", other);
+  const Recordset deletion("DELETE * FROM Clientes WHERE lCodigo < 11", other);
   EXPECT_EQ(count(connection), 290);
 }
 
