@@ -12,6 +12,7 @@
 #include "platform/os/System.h"
 #include "platform/sql/Store.h"
 #include "platform/xml/XmlDocument.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"

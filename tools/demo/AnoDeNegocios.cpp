@@ -6,6 +6,7 @@
 
 #include "demo/Plataforma.h"
 #include "platform/sql/Store.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/DBConectar.h"

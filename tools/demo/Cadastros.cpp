@@ -10,11 +10,11 @@
 #include "platform/base/Error.h"
 #include "platform/print/PrinterService.h"
 #include "platform/sql/Store.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Sistema.h"
-#include "titles/services/GeradorTitulos.h"
 
 namespace fenvale::demonstracao {
 namespace {

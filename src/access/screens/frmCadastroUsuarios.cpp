@@ -7,10 +7,10 @@
 #include "platform/os/Process.h"
 #include "platform/sql/Store.h"
 #include "shell/services/Ampulheta.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Teclas.h"
 #include "shell/services/Telas.h"
-#include "shell/services/Validacoes.h"
 #include "store/services/BancoDados.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Sistema.h"
@@ -19,9 +19,6 @@ namespace fenvale {
 namespace {
 
 constexpr const char* sAdministrador = "ADMINISTRADOR";
-
-std::string sLiteral(const TextBox& caixa) { return "'" + Validacoes::sGetStringSQL(caixa.text()) + "'"; }
-std::string sLiteral(bool bValor) { return bValor ? "-1" : "0"; }
 
 }  // namespace
 
@@ -180,29 +177,23 @@ void frmCadastroUsuarios::cmdSalvar_Click() try {
 
 /// The key of the row that was written.
 std::int32_t frmCadastroUsuarios::lGravarUsuario() {
+  ValoresSQL valores{{"sNomeUsuario", sTextoSQL(txtNome.text())},
+                     {"sLogin", sTextoSQL(txtLogin.text())},
+                     {"sSenha", sTextoSQL(txtSenha.text())}};
+  for (const Direito& direito : direitos_) valores.emplace_back(direito.sCampo, sLogicoSQL(direito.caixa->checked()));
   if (!txtCodigo.empty()) {
-    std::string sValores =
-        "sNomeUsuario = " + sLiteral(txtNome) + ", sLogin = " + sLiteral(txtLogin) + ", sSenha = " + sLiteral(txtSenha);
-    for (const Direito& direito : direitos_)
-      sValores += ", " + std::string(direito.sCampo) + " = " + sLiteral(direito.caixa->checked());
-    vExecutar("UPDATE Usuarios SET " + sValores + " WHERE lCodigo = " + txtCodigo.text());
-    return readInt32(txtCodigo.text());
+    const std::int32_t lCodigo = readInt32(txtCodigo.text());
+    vExecutar(sComandoAlteracao("Usuarios", valores, lCodigo));
+    return lCodigo;
   }
-  std::string sCampos = "sNomeUsuario, sLogin, sSenha";
-  std::string sValores = sLiteral(txtNome) + ", " + sLiteral(txtLogin) + ", " + sLiteral(txtSenha);
-  for (const Direito& direito : direitos_) {
-    sCampos += ", " + std::string(direito.sCampo);
-    sValores += ", " + sLiteral(direito.caixa->checked());
-  }
-  vExecutar("INSERT INTO Usuarios (" + sCampos + ") VALUES (" + sValores + ") ");
+  vExecutar(sComandoInclusao("Usuarios", valores));
   return readInt32(Sistema(contexto()).sGetProximoCodigoNumerico("Usuarios", "lCodigo", 0, false)) - 1;
 }
 
 /// The rights of the menu are fields, not rows: one statement each.
 void frmCadastroUsuarios::vGravarMenu(std::int32_t lCodigo) {
   for (const TreeView::Node& no : trwMenu.nodes()) {
-    vExecutar("UPDATE Usuarios SET " + no.key + " = " + sLiteral(no.checked) +
-              " WHERE lCodigo = " + std::to_string(lCodigo));
+    vExecutar(sComandoAlteracao("Usuarios", {{no.key, sLogicoSQL(no.checked)}}, lCodigo));
     host().doEvents();
   }
 }

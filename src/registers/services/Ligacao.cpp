@@ -4,6 +4,7 @@
 #include "platform/base/Error.h"
 #include "platform/ui/Boxes.h"
 #include "platform/ui/Choices.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Validacoes.h"
 
 namespace fenvale {
@@ -16,12 +17,12 @@ bool bNumerica(const TextControl& caixa) {
 struct Literal {
   std::string operator()(std::monostate) const { return "NULL"; }
   std::string operator()(const TextControl* caixa) const {
-    if (!bNumerica(*caixa)) return "'" + Validacoes::sGetStringSQL(caixa->text()) + "'";
+    if (!bNumerica(*caixa)) return sTextoSQL(caixa->text());
     return caixa->empty() ? "0" : caixa->text();
   }
   std::string operator()(const MoneyBox* caixa) const { return Validacoes::sGetFloatSQL(caixa->value()); }
   std::string operator()(const DatePicker* caixa) const { return "#" + Validacoes::sGetDataSQL(caixa->value()) + "#"; }
-  std::string operator()(const CheckBox* caixa) const { return caixa->checked() ? "-1" : "0"; }
+  std::string operator()(const CheckBox* caixa) const { return sLogicoSQL(caixa->checked()); }
   std::string operator()(const std::int32_t* lChave) const { return std::to_string(*lChave); }
   std::string operator()(const std::function<std::int32_t()>& lValor) const { return std::to_string(lValor()); }
 };

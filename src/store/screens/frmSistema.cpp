@@ -5,7 +5,6 @@
 #include "platform/print/PrinterService.h"
 #include "platform/sql/Store.h"
 #include "shell/services/Contexto.h"
-#include "shell/services/Teclas.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/ConfiguracoesPrograma.h"
 #include "store/services/DBConectar.h"
@@ -16,27 +15,10 @@ namespace {
 constexpr std::int32_t lTamanhoPaginaProposto = 100;
 constexpr std::int32_t lTamanhoPaginaRecusado = 32500;
 
-std::string sLiteral(const TextControl& caixa) { return "'" + Validacoes::sGetStringSQL(caixa.text()) + "'"; }
-std::string sLiteral(const CheckBox& caixa) { return caixa.checked() ? "-1" : "0"; }
-
-template <typename Pares, typename Parte>
-std::string sJuntar(const Pares& pares, Parte parte) {
-  std::string sTexto;
-  for (const auto& par : pares) sTexto += (sTexto.empty() ? "" : ", ") + parte(par);
-  return sTexto;
-}
-
-template <typename Pares>
-std::string sInclusao(const std::string& sTabela, const Pares& pares) {
-  return "INSERT INTO " + sTabela + " (" + sJuntar(pares, [](const auto& par) { return par.sCampo; }) + ") VALUES (" +
-         sJuntar(pares, [](const auto& par) { return par.sValor; }) + ")";
-}
-
 }  // namespace
 
 frmSistema::frmSistema(Contexto& contexto)
-    : Tela(contexto, "frmSistema"),
-      campoCidade(*this, contexto, CampoCidade::Modo::digitado, false),
+    : TelaFirma(contexto, "frmSistema", false),
       lblAberturaSistema(*this, "lblAberturaSistema", "Na abertura do sistema mostrar:", Label::Style::help),
       lblTamanhoPagina(*this, "lblTamanhoPagina",
                        "O tamanho da página determina quantos itens serão exibidos em uma listagem do sistema cada vez "
@@ -61,31 +43,22 @@ frmSistema::frmSistema(Contexto& contexto)
   setCaption("Sistema");
   setTitle("Dados do sistema");
   vMontarLayout();
-  cmdSalvar.setPrimary();
   for (ComboBox* combo : {&cmbOpcaoReparcelamento, &cmbImpressoras})
     combo->onKeyPress = [this, combo](std::string_view sCaractere) {
       return funcoes_.vComboMagico(*combo, sCaractere);
     };
   chkAutenticacao.onClick = [this] { chkAutenticacao_Click(); };
-  cmdSalvar.onClick = [this] { cmdSalvar_Click(); };
-  cmdFechar.onClick = [this] { unload(); };
 }
 
 void frmSistema::vMontarLayout() {
+  std::vector<LayoutNode> firma = linhasFirma({campo("CNPJ", txtCNPJ, 6)});
+  firma.push_back(linha({campo("Juros/Dia (Simples) %", txtPercentualJurosDia, 6),
+                         campo("Juros/mês (Composto) %", txtPercentualJurosMes, 6)}));
+  firma.push_back(
+      quadro("Reparcelamento", {linha({campo("Opção para reparcelamento", cmbOpcaoReparcelamento, 10)}),
+                                solto(lblReparcelamento), solto(lblReparcelamento1), solto(lblReparcelamento2)}));
   setLayout({
-      aba("Dados da firma",
-          {
-              linha({campo("Nome", txtNome, cresce)}),
-              linha({campo("Endereço", txtEndereco, 15), campo("Bairro", txtBairro, cresce)}),
-              linha({campoCidade.campoNome(cresce), campoCidade.campoUF(), campo("CEP", txtCEP, 4),
-                     campo("CNPJ", txtCNPJ, 6)}),
-              linha({campo("Telefone", txtTelefone, 5), campo("Fax", txtFax, 5), campo("e-mail", txtEMail, cresce)}),
-              linha({campo("Juros/Dia (Simples) %", txtPercentualJurosDia, 6),
-                     campo("Juros/mês (Composto) %", txtPercentualJurosMes, 6)}),
-              quadro("Reparcelamento",
-                     {linha({campo("Opção para reparcelamento", cmbOpcaoReparcelamento, 10)}), solto(lblReparcelamento),
-                      solto(lblReparcelamento1), solto(lblReparcelamento2)}),
-          }),
+      aba("Dados da firma", std::move(firma)),
       aba("Configurações",
           {
               solto(lblAberturaSistema),
@@ -103,8 +76,6 @@ void frmSistema::vMontarLayout() {
   });
   setPreferredSize(20, 0);
 }
-
-bool frmSistema::onKeyDown(Key tecla) { return bPressionarBotaoDaTecla(*this, tecla) || bTestarTecla(tecla); }
 
 void frmSistema::onLoad() try {
   vMontarCombos();
@@ -135,15 +106,7 @@ void frmSistema::vLerSistema() {
       "'#,##0.00') AS Mes FROM Cidades INNER JOIN Sistema ON Cidades.lCodigo = Sistema.lCidade",
       contexto().dbConectar().Dados(), CursorType::keyset, LockType::optimistic);
   if (rs.recordCount() == 0) return;
-  txtNome.setText(rs["sNome"].toText());
-  txtEndereco.setText(rs["sEndereco"].toText());
-  txtBairro.setText(rs["sBairro"].toText());
-  txtCEP.setText(rs["sCEP"].toText());
-  campoCidade.vSetEstado(rs);
-  txtCNPJ.setText(rs["sCNPJ"].toText());
-  txtTelefone.setText(rs["sTelefone"].toText());
-  txtFax.setText(rs["sFax"].toText());
-  txtEMail.setText(rs["sEMail"].toText());
+  vMostrarFirma(rs);
   txtPercentualJurosDia.setValue(Currency::fromBrazilian(rs["Dia"].toText()));
   txtPercentualJurosMes.setValue(Currency::fromBrazilian(rs["Mes"].toText()));
   cmbOpcaoReparcelamento.setListIndex(rs["btOpcaoReparcelamento"].toLong());
@@ -174,16 +137,9 @@ void frmSistema::chkAutenticacao_Click() {
 }
 
 bool frmSistema::bVerificarFirma() {
-  // The checks clean their argument; what is stored is the text of the box.
-  std::string sCNPJ = txtCNPJ.text(), sEMail = txtEMail.text();
-  if (txtNome.empty()) return recusar("O nome deve ser informado.", txtNome);
-  if (without(sCNPJ, " .-/").empty()) return recusar("O CNPJ deve ser informado.", txtCNPJ);
-  if (!Validacoes::bValidarCNPJ(sCNPJ) && !perguntar("CNPJ inválido. Deseja continuar?")) {
-    txtCNPJ.setFocus();
-    return false;
-  }
-  if (!sEMail.empty() && !Validacoes::bValidarEMail(sEMail)) return recusar("O e-Mail informado é inválido.", txtEMail);
-  return true;
+  if (!bVerificarNome()) return false;
+  if (without(txtCNPJ.text(), " .-/").empty()) return recusar("O CNPJ deve ser informado.", txtCNPJ);
+  return bVerificarCNPJ() && bVerificarEMail();
 }
 
 bool frmSistema::bVerificarCorreio() {
@@ -207,44 +163,34 @@ bool frmSistema::bVerificarOpcoes() {
 }
 
 bool frmSistema::bVerificarDados() {
-  if (!bVerificarFirma() || !bVerificarCorreio() || !bVerificarOpcoes()) return false;
-  if (campoCidade.lGetCodigo() < 0) return recusar("Informe a cidade.", campoCidade.txtCidade);
-  return true;
+  return bVerificarFirma() && bVerificarCorreio() && bVerificarOpcoes() && bVerificarCidade();
 }
 
-std::vector<frmSistema::Par> frmSistema::camposSistema() const {
-  return {
-      {"sNome", sLiteral(txtNome)},
-      {"sEndereco", sLiteral(txtEndereco)},
-      {"sBairro", sLiteral(txtBairro)},
-      {"sCEP", sLiteral(txtCEP)},
-      {"lCidade", std::to_string(campoCidade.lGetCodigo())},
-      {"sCNPJ", sLiteral(txtCNPJ)},
-      {"sTelefone", sLiteral(txtTelefone)},
-      {"sFax", sLiteral(txtFax)},
-      {"sEMail", sLiteral(txtEMail)},
-      {"fPercentualJurosDia", Validacoes::sGetFloatSQL(txtPercentualJurosDia.value())},
-      {"fPercentualJurosMes", Validacoes::sGetFloatSQL(txtPercentualJurosMes.value())},
-      {"btOpcaoReparcelamento", std::to_string(cmbOpcaoReparcelamento.itemData())},
-      {"bitMostrarContasPagarDia", sLiteral(chkMostrarContasPagarDia)},
-      {"bitMostrarContasReceberDia", sLiteral(chkMostrarContasReceberDia)},
-      {"bitMostrarContasVencidasPagar", sLiteral(chkMostrarContasVencidasPagar)},
-      {"bitMostrarContasVencidasReceber", sLiteral(chkMostrarContasVencidasReceber)},
-  };
+ValoresSQL frmSistema::valoresSistema() const {
+  ValoresSQL valores = valoresFirma();
+  valores.insert(valores.end(),
+                 {{"fPercentualJurosDia", Validacoes::sGetFloatSQL(txtPercentualJurosDia.value())},
+                  {"fPercentualJurosMes", Validacoes::sGetFloatSQL(txtPercentualJurosMes.value())},
+                  {"btOpcaoReparcelamento", std::to_string(cmbOpcaoReparcelamento.itemData())},
+                  {"bitMostrarContasPagarDia", sLogicoSQL(chkMostrarContasPagarDia.checked())},
+                  {"bitMostrarContasReceberDia", sLogicoSQL(chkMostrarContasReceberDia.checked())},
+                  {"bitMostrarContasVencidasPagar", sLogicoSQL(chkMostrarContasVencidasPagar.checked())},
+                  {"bitMostrarContasVencidasReceber", sLogicoSQL(chkMostrarContasVencidasReceber.checked())}});
+  return valores;
 }
 
-std::vector<frmSistema::Par> frmSistema::camposConfiguracoes() const {
+ValoresSQL frmSistema::valoresConfiguracoes() const {
   const bool bAutenticacao = chkAutenticacao.checked();
   return {
-      {"sSMTP", sLiteral(txtSMTP)},
-      {"sEmailRementente", sLiteral(txtEmailRemetente)},
-      {"sUID", bAutenticacao ? sLiteral(txtLogin) : "''"},
-      {"sPWD", bAutenticacao ? sLiteral(txtSenha) : "''"},
-      {"bitAutenticacao", sLiteral(chkAutenticacao)},
+      {"sSMTP", sTextoSQL(txtSMTP.text())},
+      {"sEmailRementente", sTextoSQL(txtEmailRemetente.text())},
+      {"sUID", bAutenticacao ? sTextoSQL(txtLogin.text()) : "''"},
+      {"sPWD", bAutenticacao ? sTextoSQL(txtSenha.text()) : "''"},
+      {"bitAutenticacao", sLogicoSQL(chkAutenticacao.checked())},
       {"lTamanhoPagina", std::to_string(txtTamanhoPagina.value())},
-      {"bitExibirLoginUsuarios", sLiteral(chkExibirLoginUsuario)},
-      {"sNomeImpressora", "'" + Validacoes::sGetStringSQL(cmbImpressoras.text()) + "'"},
-      {"bitImprimirEntrada", sLiteral(chkImprimirEntrada)},
+      {"bitExibirLoginUsuarios", sLogicoSQL(chkExibirLoginUsuario.checked())},
+      {"sNomeImpressora", sTextoSQL(cmbImpressoras.text())},
+      {"bitImprimirEntrada", sLogicoSQL(chkImprimirEntrada.checked())},
   };
 }
 
@@ -256,14 +202,9 @@ void frmSistema::cmdSalvar_Click() try {
   Permissoes& permissoes = contexto().permissoes();
   if (!(bExiste ? permissoes.bGetAtualizar() : permissoes.bGetSalvar())) return;
   if (!bVerificarDados()) return;
-  if (bExiste) {
-    vExecutar("UPDATE Sistema SET " +
-              sJuntar(camposSistema(), [](const Par& par) { return par.sCampo + " = " + par.sValor; }));
-  } else {
-    vExecutar(sInclusao("Sistema", camposSistema()));
-  }
+  vExecutar(bExiste ? sComandoAlteracao("Sistema", valoresSistema()) : sComandoInclusao("Sistema", valoresSistema()));
   vExecutar("DELETE * FROM Configuracoes ");
-  vExecutar(sInclusao("Configuracoes", camposConfiguracoes()));
+  vExecutar(sComandoInclusao("Configuracoes", valoresConfiguracoes()));
   contexto().configuracoes().vSetTamanhoPagina(txtTamanhoPagina.value());
   informar("Operação concluída.");
   unload();

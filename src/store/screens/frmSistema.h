@@ -2,31 +2,16 @@
 // The firm's own data and business options, and the technical settings of the installation.
 
 #include <string>
-#include <vector>
 
-#include "platform/ui/Boxes.h"
-#include "platform/ui/Choices.h"
-#include "registers/services/CampoCidade.h"
 #include "shell/services/Funcoes.h"
-#include "shell/services/Tela.h"
+#include "store/screens/TelaFirma.h"
 
 namespace fenvale {
 
-class Recordset;
-
-class frmSistema final : public Tela {
+class frmSistema final : public TelaFirma {
  public:
   explicit frmSistema(Contexto& contexto);
 
-  TextBox txtNome{*this, "txtNome", 150};
-  TextBox txtEndereco{*this, "txtEndereco", 150};
-  TextBox txtBairro{*this, "txtBairro", 150};
-  MaskBox txtCEP{*this, "txtCEP", masks::cep};
-  CampoCidade campoCidade;
-  MaskBox txtCNPJ{*this, "txtCNPJ", masks::cnpj};
-  MaskBox txtTelefone{*this, "txtTelefone", masks::telefone};
-  MaskBox txtFax{*this, "txtFax", masks::telefone};
-  TextBox txtEMail{*this, "txtEMail", 255};
   MoneyBox txtPercentualJurosDia{*this, "txtPercentualJurosDia"};
   MoneyBox txtPercentualJurosMes{*this, "txtPercentualJurosMes"};
   ComboBox cmbOpcaoReparcelamento{*this, "cmbOpcaoReparcelamento"};
@@ -51,32 +36,23 @@ class frmSistema final : public Tela {
   Label lblReparcelamento;
   Label lblReparcelamento1;
   Label lblReparcelamento2;
-  Button cmdSalvar{*this, "cmdSalvar", "Salvar", "salvar", Key::f3};
-  Button cmdFechar{*this, "cmdFechar", "Fechar", "fechar", Key::escape};
 
  protected:
   void onLoad() override;
-  bool onKeyDown(Key tecla) override;
+  void cmdSalvar_Click() override;
 
  private:
-  /// A field of a statement and its literal.
-  struct Par {
-    std::string sCampo;
-    std::string sValor;
-  };
-
   void vMontarLayout();
   void vMontarCombos();
   void vLerSistema();
   void vLerConfiguracoes();
   void chkAutenticacao_Click();
-  void cmdSalvar_Click();
   bool bVerificarDados();
   bool bVerificarFirma();
   bool bVerificarCorreio();
   bool bVerificarOpcoes();
-  std::vector<Par> camposSistema() const;
-  std::vector<Par> camposConfiguracoes() const;
+  ValoresSQL valoresSistema() const;
+  ValoresSQL valoresConfiguracoes() const;
   void vExecutar(const std::string& sSQL) const;
 
   Funcoes funcoes_;

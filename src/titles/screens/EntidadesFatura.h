@@ -10,7 +10,7 @@
 #include "platform/ui/Boxes.h"
 #include "registers/services/CampoBusca.h"
 #include "registers/services/TelaPaginada.h"
-#include "titles/services/GeradorTitulos.h"
+#include "shell/services/ComandosSQL.h"
 
 namespace fenvale {
 

@@ -3,6 +3,7 @@
 #include "platform/base/Checked.h"
 #include "platform/base/Format.h"
 #include "platform/base/Text.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Telas.h"
 #include "store/services/Sistema.h"

@@ -3,6 +3,7 @@
 #include "access/services/Permissoes.h"
 #include "platform/base/Checked.h"
 #include "platform/sql/Store.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Telas.h"
 #include "shell/services/Validacoes.h"

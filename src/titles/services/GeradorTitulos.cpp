@@ -2,6 +2,7 @@
 
 #include "platform/base/Checked.h"
 #include "platform/sql/Store.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/DBConectar.h"
@@ -14,25 +15,6 @@ namespace {
 std::string sData(Date dtData) { return "#" + Validacoes::sGetDataSQL(dtData) + "#"; }
 
 }  // namespace
-
-std::string sComandoInclusao(const std::string& sTabela, const ValoresSQL& valores) {
-  std::string sColunas, sLiterais;
-  for (const auto& [sColuna, sLiteral] : valores) {
-    const char* const sVirgula = sColunas.empty() ? "" : ", ";
-    sColunas += sVirgula + sColuna;
-    sLiterais += sVirgula + sLiteral;
-  }
-  return "INSERT INTO " + sTabela + " (" + sColunas + ") VALUES (" + sLiterais + ")";
-}
-
-std::string sComandoAlteracao(const std::string& sTabela, const ValoresSQL& valores, std::int32_t lCodigo) {
-  std::string sAtribuicoes;
-  for (const auto& [sColuna, sLiteral] : valores) {
-    if (!sAtribuicoes.empty()) sAtribuicoes += ", ";
-    sAtribuicoes.append(sColuna).append(" = ").append(sLiteral);
-  }
-  return "UPDATE " + sTabela + " SET " + sAtribuicoes + " WHERE lCodigo = " + std::to_string(lCodigo);
-}
 
 GeradorTitulos::GeradorTitulos(Contexto& contexto, const Lado& lado)
     : contexto_(contexto), lado_(lado), titulos_(contexto) {}

@@ -5,7 +5,6 @@
 
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 #include "platform/base/Currency.h"
@@ -24,11 +23,6 @@ enum class Reajuste {
   semTitulosAbertos,  ///< nothing was written
   semSaldo,           ///< a title would fall to 0 or below; the caller undoes what was written before it
 };
-
-/// A column and its SQL literal.
-using ValoresSQL = std::vector<std::pair<std::string, std::string>>;
-std::string sComandoInclusao(const std::string& sTabela, const ValoresSQL& valores);
-std::string sComandoAlteracao(const std::string& sTabela, const ValoresSQL& valores, std::int32_t lCodigo);
 
 class GeradorTitulos {
  public:

@@ -237,13 +237,5 @@ TEST_P(GeradorTitulosTest, BothListsOpenOnTheirSide) {
 
 INSTANTIATE_TEST_SUITE_P(Lados, GeradorTitulosTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
-TEST(ComandosSQL, AnInsertAndAnUpdate) {
-  const ValoresSQL valores{{"lNumeroFatura", "7"}, {"dtEmissao", "#03/01/2026#"}};
-  EXPECT_EQ(sComandoInclusao("FaturasCliente", valores),
-            "INSERT INTO FaturasCliente (lNumeroFatura, dtEmissao) VALUES (7, #03/01/2026#)");
-  EXPECT_EQ(sComandoAlteracao("FaturasCliente", valores, 3),
-            "UPDATE FaturasCliente SET lNumeroFatura = 7, dtEmissao = #03/01/2026# WHERE lCodigo = 3");
-}
-
 }  // namespace
 }  // namespace fenvale
