@@ -31,7 +31,7 @@ class Usuarios : public testing::Test {
     programa.executarPrograma(sInsert + "('ADMINISTRADOR', 'ADMINISTRADOR', 'x', -1, -1, -1, -1, -1)");
   }
   /// Shows the screen; `agir` expects its boxes itself, before it presses.
-  std::optional<int> abrir(std::function<void(frmCadastroUsuarios&)> agir) {
+  std::optional<int> abrir(const std::function<void(frmCadastroUsuarios&)>& agir) {
     host.expectScreen("frmCadastroUsuarios", [this, agir](Screen& tela) {
       agir(dynamic_cast<frmCadastroUsuarios&>(tela));
       host.verify();
@@ -369,7 +369,7 @@ TEST_F(Usuarios, TheSearchListsByTheBeginningOfTheNameAndNeverTheAdministrator) 
 
 TEST_F(Usuarios, TheSearchKeepsItsColumnWidths) {
   administrador();
-  const auto buscar = [this](std::function<void(frmLocalizarUsuarios&)> agir) {
+  const auto buscar = [this](const std::function<void(frmLocalizarUsuarios&)>& agir) {
     abrir([this, agir](frmCadastroUsuarios& tela) {
       host.expectScreen("frmLocalizarUsuarios", [agir](Screen& busca) {
         agir(dynamic_cast<frmLocalizarUsuarios&>(busca));

@@ -21,7 +21,7 @@ class Login : public testing::Test {
   }
   /// Shows the login and operates it; the boxes that it shows are to be expected by `boxes`.
   std::optional<int> abrir(
-      std::function<void(frmLogin&)> agir, std::function<void()> boxes = [] {}) {
+      const std::function<void(frmLogin&)>& agir, const std::function<void()>& boxes = [] {}) {
     host.expectScreen("frmLogin", [agir](Screen& tela) { agir(dynamic_cast<frmLogin&>(tela)); });
     boxes();
     const auto codigo = programa.codigoDeSaida([this] { host.showModal(programa.telas().obter("frmLogin")); });
@@ -36,7 +36,7 @@ class Login : public testing::Test {
 TEST_F(Login, ShowsItsTextsAndTheLogins) {
   usuario("Ana", "ANA", "x");
   usuario("Bia", "BIA", "y");
-  abrir([this](frmLogin& tela) {
+  abrir([](frmLogin& tela) {
     EXPECT_EQ("Norvane Sistemas - Gestor Fenvale Fenvale 1.0.0", tela.caption());
     EXPECT_EQ("Escolha um login e indique sua senha de acesso.", tela.lblMensagem.caption());
     EXPECT_EQ("Login", tela.cmbLogin.label());

@@ -284,7 +284,7 @@ class BuscaRapida : public Cadastros, public testing::WithParamInterface<CasoRap
     return inserir(caso.sTabela, std::string(caso.sCodigo) + ", " + caso.sTexto + caso.sOutrasColunas,
                    std::to_string(iCodigo) + ", '" + sNome + "'" + caso.sOutrosValores);
   }
-  void localizar(std::function<void(TelaBuscaRapida&)> agir) {
+  void localizar(const std::function<void(TelaBuscaRapida&)>& agir) {
     host.expectScreen(caso.sBusca, [agir](Screen& aberta) { agir(dynamic_cast<TelaBuscaRapida&>(aberta)); });
     programa.telas().obter<TelaBusca>(caso.sBusca).vLocalizar(chamadora);
   }

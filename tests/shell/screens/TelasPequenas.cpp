@@ -116,7 +116,7 @@ TEST_F(TelasPequenas, AnyKeyClosesAbout) {
 
 class LocalizarBD : public TelasPequenas {
  protected:
-  void aberta(std::function<void(frmLocalizarBD&)> agir) {
+  void aberta(const std::function<void(frmLocalizarBD&)>& agir) {
     host.expectScreen("frmLocalizarBD", [agir](Screen& tela) { agir(dynamic_cast<frmLocalizarBD&>(tela)); });
     host.showModal(programa.telas().obter("frmLocalizarBD"));
   }

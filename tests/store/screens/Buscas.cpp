@@ -33,7 +33,7 @@ class Buscas : public testing::Test {
 class Cidades : public Buscas {
  protected:
   void SetUp() override { programa.abrirEmpresa(); }
-  void buscar(bool bEmpresa, std::function<void(frmLocalizarCidades&)> agir) {
+  void buscar(bool bEmpresa, const std::function<void(frmLocalizarCidades&)>& agir) {
     host.expectScreen("frmLocalizarCidades", [this, agir](Screen& tela) {
       agir(dynamic_cast<frmLocalizarCidades&>(tela));
       host.verify();
@@ -158,7 +158,7 @@ class Arquivos : public Buscas {
     for (const char* nome : {"b.MDB", "a.mdb", "nota.txt", "sub/c.MDB", "sub/fundo/d.MDB", "outra/e.MDB"})
       lugar.gravar(nome, "x");
   }
-  std::string buscar(const std::string& padrao, std::function<void(frmLocalizarArquivo&)> agir) {
+  std::string buscar(const std::string& padrao, const std::function<void(frmLocalizarArquivo&)>& agir) {
     host.expectScreen("frmLocalizarArquivo", [this, agir](Screen& aberta) {
       auto& tela = dynamic_cast<frmLocalizarArquivo&>(aberta);
       tela.drvArvoreDiretorios.userChoose(lugar.caminho());

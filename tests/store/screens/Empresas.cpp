@@ -27,7 +27,7 @@ using testing::IsEmpty;
 
 class Abrir : public TelasDeEmpresas {
  protected:
-  std::optional<int> tela(std::function<void(frmEmpresaAbrir&)> agir) {
+  std::optional<int> tela(const std::function<void(frmEmpresaAbrir&)>& agir) {
     return abrir<frmEmpresaAbrir>("frmEmpresaAbrir", agir);
   }
   void comDados(const std::string& nome) {
@@ -194,7 +194,7 @@ TEST_F(Abrir, TheStoreRefusesTwoRowsForOneFile) {
 
 class Nova : public TelasDeEmpresas {
  protected:
-  std::optional<int> tela(std::function<void(frmEmpresaNova&)> agir) {
+  std::optional<int> tela(const std::function<void(frmEmpresaNova&)>& agir) {
     return abrir<frmEmpresaNova>("frmEmpresaNova", agir);
   }
   void preencher(frmEmpresaNova& t, const std::string& nome) {
@@ -390,7 +390,9 @@ TEST_F(Nova, AReferenceToALostFolderIsAskedForInOtherWords) {
 class DadosDaEmpresa : public TelasDeEmpresas {
  protected:
   void SetUp() override { programa.abrirEmpresa(); }
-  std::optional<int> tela(std::function<void(frmEmpresa&)> agir) { return abrir<frmEmpresa>("frmEmpresa", agir); }
+  std::optional<int> tela(const std::function<void(frmEmpresa&)>& agir) {
+    return abrir<frmEmpresa>("frmEmpresa", agir);
+  }
   static void cidade(frmEmpresa& t) {
     t.campoCidade.txtCidade.setFocus();
     t.campoCidade.txtCidade.userType("Londrina");

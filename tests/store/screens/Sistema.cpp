@@ -19,7 +19,7 @@ using testing::IsEmpty;
 class DadosDoSistema : public testing::Test {
  protected:
   void SetUp() override { programa.abrirPrograma(); }
-  void abrir(std::function<void(frmSistema&)> agir) {
+  void abrir(const std::function<void(frmSistema&)>& agir) {
     host.expectScreen("frmSistema", [this, agir](Screen& tela) {
       agir(dynamic_cast<frmSistema&>(tela));
       host.verify();
