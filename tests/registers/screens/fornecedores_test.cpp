@@ -1,5 +1,8 @@
 // What only the register of suppliers has.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "Pessoas.h"
 #include "registers/screens/frmCadastroFornecedores.h"
 

@@ -1,5 +1,8 @@
 // What the registers of customers and suppliers have in common, each through the same cases.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "Pessoas.h"
 #include "registers/screens/TelaBuscaCompleta.h"
 #include "shell/services/Contexto.h"

@@ -50,7 +50,7 @@ class Backup : public TelasDeEmpresas {
  protected:
   Backup() { fs::create_directory(programa.pasta().arquivo("copias")); }
 
-  std::optional<int> tela(std::function<void(frmEmpresaBackup&)> agir) {
+  std::optional<int> tela(const std::function<void(frmEmpresaBackup&)>& agir) {
     return abrir<frmEmpresaBackup>("frmEmpresaBackup", agir);
   }
   std::string copias(const std::string& nome = {}) { return pasta() + "copias/" + nome; }

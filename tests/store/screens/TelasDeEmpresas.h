@@ -22,7 +22,7 @@ class TelasDeEmpresas : public testing::Test {
   void SetUp() override { programa.abrirPrograma(); }
 
   template <typename T>
-  std::optional<int> abrir(const char* nome, std::function<void(T&)> agir) {
+  std::optional<int> abrir(const char* nome, const std::function<void(T&)>& agir) {
     host.expectScreen(nome, [this, agir](Screen& tela) {
       agir(dynamic_cast<T&>(tela));
       host.verify();
