@@ -48,10 +48,15 @@ std::int64_t memoriaMaximaEmKB() {
   return 0;
 }
 
-/// Screens that open on a question or a message of their own find somebody who presses Enter.
-void responderCaixas(qt::QtHost& host) {
-  if (host.openBox() == nullptr || host.topWindow() == nullptr) return;
-  QKeyEvent aperto(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
+/// Screens that open on a question or a message of their own find somebody who presses Enter, and who closes the
+/// accounts overview that comes up at the start.
+void responder(qt::QtHost& host) {
+  if (host.topWindow() == nullptr) return;
+  const Screen* const tela = host.activeScreen();
+  const bool bQuadro = host.openBox() == nullptr && tela != nullptr && tela->sGetName() == "frmMostrarContas";
+  if (host.openBox() == nullptr && !bQuadro) return;
+  QKeyEvent aperto(QEvent::KeyPress, bQuadro ? Qt::Key_Escape : Qt::Key_Return, Qt::NoModifier,
+                   bQuadro ? QString() : QStringLiteral("\r"));
   QApplication::sendEvent(host.topWindow(), &aperto);
 }
 
@@ -82,7 +87,7 @@ int filho(int quantos, char** argumentos) {
                    .scheme = {},
                    .immediate = true});
   QTimer alguem;
-  QObject::connect(&alguem, &QTimer::timeout, &host, [&host] { responderCaixas(host); });
+  QObject::connect(&alguem, &QTimer::timeout, &host, [&host] { responder(host); });
   alguem.start(5);
   const SystemClock relogio;
   SystemProcess processo;

@@ -23,6 +23,7 @@ using exemplo::Sorteio;
 
 constexpr std::uint64_t semente = 2026;
 constexpr std::uint32_t quantosClientes = 120;
+constexpr std::uint32_t quantosFornecedores = 40;
 constexpr const char* sNomeFirma = "Comercial Fenvale Ltda";
 
 struct CidadeDaRegiao {
@@ -43,6 +44,10 @@ constexpr std::array<CidadeDaRegiao, 10> cidades{{{"Londrina", "PR"},
 
 constexpr std::array<std::string_view, 6> categorias{"Consumidor final",      "Comércio varejista", "Indústria",
                                                      "Prestador de serviços", "Construtora",        "Órgão público"};
+constexpr std::array<std::string_view, 5> categoriasFornecedores{"Fabricante", "Distribuidor", "Importador", "Serviços",
+                                                                 "Transporte"};
+/// The numbers of the banks where suppliers have their accounts.
+constexpr std::array<int, 7> bancos{1, 33, 41, 104, 237, 341, 756};
 constexpr std::array<std::string_view, 4> centrosCusto{"Loja", "Vendas externas", "Oficina", "Assistência técnica"};
 constexpr std::array<std::string_view, 4> portadores{"Carteira", "Banco do Brasil", "Caixa Econômica Federal", "Itaú"};
 constexpr std::uint32_t quantosVendedores = 5;
@@ -66,6 +71,13 @@ std::int32_t lCidade(Connection& conexao, const CidadeDaRegiao& cidade) {
       "SELECT lCodigo FROM Cidades WHERE sNome = " + sTexto(cidade.sNome) + " AND sUF = " + sTexto(cidade.sUF),
       conexao);
   if (rs.eof()) throw Error(errors::noCurrentRecord, std::string("A cidade ") + cidade.sNome + " não foi encontrada.");
+  return rs.field("lCodigo").toLong();
+}
+
+std::int32_t lBanco(Connection& conexao, int iNumero) {
+  const Recordset rs("SELECT lCodigo FROM Bancos WHERE iCodigoInf = " + std::to_string(iNumero), conexao);
+  if (rs.eof())
+    throw Error(errors::noCurrentRecord, "O banco de número " + std::to_string(iNumero) + " não foi encontrado.");
   return rs.field("lCodigo").toLong();
 }
 
@@ -118,39 +130,43 @@ std::vector<std::int32_t> incluirNomes(Contexto& contexto, const char* sTabela, 
   return chaves;
 }
 
+ValoresSQL valoresPessoa(const exemplo::Pessoa& p) {
+  return {{"sNome", sTexto(p.sNome)},         {"sEndereco", sTexto(p.sEndereco)},
+          {"sCEP", sTexto(p.sCEP)},           {"sTelefone", sTexto(p.sTelefone)},
+          {"sFax", sTexto(p.sFax)},           {"sContato", sTexto(p.sContato)},
+          {"sCPF", sTexto(p.sCPF)},           {"sIE", sTexto(p.sIE)},
+          {"sCNPJ", sTexto(p.sCNPJ)},         {"sEmail", sTexto(p.sEmail)},
+          {"sHomePage", sTexto(p.sHomePage)}, {"txtObs", sTexto(p.txtObs)}};
+}
+
 ValoresSQL valoresCliente(const exemplo::Cliente& c) {
-  return {{"sNome", sTexto(c.sNome)},
-          {"fLimiteCredito", Validacoes::sGetFloatSQL(c.fLimiteCredito)},
-          {"sEndereco", sTexto(c.sEndereco)},
-          {"sBairro", sTexto(c.sBairro)},
-          {"sCEP", sTexto(c.sCEP)},
-          {"sTelefone", sTexto(c.sTelefone)},
-          {"sFax", sTexto(c.sFax)},
-          {"sContato", sTexto(c.sContato)},
-          {"sRG", sTexto(c.sRG)},
-          {"sCPF", sTexto(c.sCPF)},
-          {"sIE", sTexto(c.sIE)},
-          {"sCNPJ", sTexto(c.sCNPJ)},
-          {"sPai", sTexto(c.sPai)},
-          {"sMae", sTexto(c.sMae)},
-          {"sEmail", sTexto(c.sEmail)},
-          {"dtNascimento", "#" + Validacoes::sGetDataSQL(c.dtNascimento) + "#"},
-          {"sHomePage", sTexto(c.sHomePage)},
-          {"txtObs", sTexto(c.txtObs)},
-          {"sEnderecoEntrega", sTexto(c.sEnderecoEntrega)},
-          {"sBairroEntrega", sTexto(c.sBairroEntrega)},
-          {"sCEPEntrega", sTexto(c.sCEPEntrega)},
-          {"sEnderecoCobranca", sTexto(c.sEnderecoCobranca)},
-          {"sBairroCobranca", sTexto(c.sBairroCobranca)},
-          {"sCEPCobranca", sTexto(c.sCEPCobranca)}};
+  ValoresSQL valores = valoresPessoa(c);
+  valores.insert(valores.end(), {{"fLimiteCredito", Validacoes::sGetFloatSQL(c.fLimiteCredito)},
+                                 {"sBairro", sTexto(c.sBairro)},
+                                 {"sRG", sTexto(c.sRG)},
+                                 {"sPai", sTexto(c.sPai)},
+                                 {"sMae", sTexto(c.sMae)},
+                                 {"dtNascimento", "#" + Validacoes::sGetDataSQL(c.dtNascimento) + "#"},
+                                 {"sEnderecoEntrega", sTexto(c.sEnderecoEntrega)},
+                                 {"sBairroEntrega", sTexto(c.sBairroEntrega)},
+                                 {"sCEPEntrega", sTexto(c.sCEPEntrega)},
+                                 {"sEnderecoCobranca", sTexto(c.sEnderecoCobranca)},
+                                 {"sBairroCobranca", sTexto(c.sBairroCobranca)},
+                                 {"sCEPCobranca", sTexto(c.sCEPCobranca)}});
+  return valores;
+}
+
+std::vector<std::int32_t> chavesDasCidades(Connection& dados) {
+  std::vector<std::int32_t> chaves;
+  chaves.reserve(cidades.size());
+  for (const CidadeDaRegiao& cidade : cidades) chaves.push_back(lCidade(dados, cidade));
+  return chaves;
 }
 
 std::vector<std::int32_t> incluirClientes(Contexto& contexto, const std::vector<std::int32_t>& chavesCategorias,
                                           const std::vector<std::int32_t>& chavesVendedores) {
   Sistema sistema(contexto);
-  std::vector<std::int32_t> chavesCidades;
-  chavesCidades.reserve(cidades.size());
-  for (const CidadeDaRegiao& cidade : cidades) chavesCidades.push_back(lCidade(contexto.dbEmpresa().Dados(), cidade));
+  const std::vector<std::int32_t> chavesCidades = chavesDasCidades(contexto.dbEmpresa().Dados());
   std::vector<std::int32_t> clientes;
   for (std::uint32_t i = 0; i < quantosClientes; ++i) {
     Sorteio sorteio(semente, 20, i);
@@ -170,6 +186,28 @@ std::vector<std::int32_t> incluirClientes(Contexto& contexto, const std::vector<
   return clientes;
 }
 
+std::vector<std::int32_t> incluirFornecedores(Contexto& contexto, const std::vector<std::int32_t>& chavesCategorias) {
+  Connection& dados = contexto.dbEmpresa().Dados();
+  const std::vector<std::int32_t> chavesCidades = chavesDasCidades(dados);
+  std::vector<std::int32_t> chavesBancos;
+  chavesBancos.reserve(bancos.size());
+  for (const int iNumero : bancos) chavesBancos.push_back(lBanco(dados, iNumero));
+  std::vector<std::int32_t> fornecedores;
+  fornecedores.reserve(quantosFornecedores);
+  for (std::uint32_t i = 0; i < quantosFornecedores; ++i) {
+    Sorteio sorteio(semente, 21, i);
+    const exemplo::Fornecedor fornecedor = exemplo::fornecedor(semente, i);
+    ValoresSQL valores = valoresPessoa(fornecedor);
+    valores.insert(valores.end(), {{"sAgencia", sTexto(fornecedor.sAgencia)},
+                                   {"sConta", sTexto(fornecedor.sConta)},
+                                   {"lCategoria", std::to_string(sorteio.umDe(chavesCategorias))},
+                                   {"lCidade", std::to_string(sorteio.umDe(chavesCidades))},
+                                   {"lBanco", std::to_string(sorteio.umDe(chavesBancos))}});
+    fornecedores.push_back(lIncluir(contexto, "Fornecedores", "lCodigoInf", std::move(valores)));
+  }
+  return fornecedores;
+}
+
 }  // namespace
 
 std::string sTexto(const std::string& sValor) { return "'" + Validacoes::sGetStringSQL(sValor) + "'"; }
@@ -187,10 +225,10 @@ void vCadastrarPrograma(Contexto& contexto) {
   firma.insert(firma.end(), {{"fPercentualJurosDia", "0.033"},
                              {"fPercentualJurosMes", "1"},
                              {"btOpcaoReparcelamento", "1"},
-                             {"bitMostrarContasPagarDia", "0"},
-                             {"bitMostrarContasReceberDia", "0"},
-                             {"bitMostrarContasVencidasPagar", "0"},
-                             {"bitMostrarContasVencidasReceber", "0"}});
+                             {"bitMostrarContasPagarDia", "-1"},
+                             {"bitMostrarContasReceberDia", "-1"},
+                             {"bitMostrarContasVencidasPagar", "-1"},
+                             {"bitMostrarContasVencidasReceber", "-1"}});
   vExecutar(dados, sComandoInclusao("Sistema", firma));
   vExecutar(dados, sComandoInclusao("Configuracoes", {{"sSMTP", sTexto("smtp.fenvale.example")},
                                                       {"sEmailRementente", sTexto("contato@fenvale.example")},
@@ -227,6 +265,8 @@ Registros cadastrarEmpresa(Contexto& contexto) {
     registros.condicoes.push_back(condicao);
   }
   registros.clientes = incluirClientes(contexto, chavesCategorias, registros.vendedores);
+  registros.fornecedores =
+      incluirFornecedores(contexto, incluirNomes(contexto, "Categorias", "sNome", categoriasFornecedores));
   return registros;
 }
 

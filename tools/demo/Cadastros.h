@@ -22,7 +22,7 @@ struct CondicaoPagamento {
 
 /// The keys of what was stored.
 struct Registros {
-  std::vector<std::int32_t> clientes, portadores, vendedores, centrosCusto;
+  std::vector<std::int32_t> clientes, fornecedores, portadores, vendedores, centrosCusto;
   std::vector<CondicaoPagamento> condicoes;
 };
 

@@ -54,7 +54,8 @@ class Obra {
     vAbrirEmpresa();
     vFazerNegocios();
     programa_.empresas().vSetUltimaEmpresaSelecionada();
-    return {lContar("Clientes"), lContar("FaturasCliente"), lContar("TitulosReceber")};
+    return {lContar("Clientes"), lContar("Fornecedores"), lContar("FaturasCliente") + lContar("FaturasFornecedor"),
+            lContar("TitulosReceber") + lContar("TitulosPagar")};
   }
 
  private:
@@ -88,7 +89,7 @@ class Obra {
     daEmpresa.beginTrans();
     vCadastrarDadosEmpresa(programa_);
     const Registros registros = cadastrarEmpresa(programa_);
-    AnoDeNegocios(programa_, registros, relogio_).vViver(pedido_.hoje);
+    vViverUmAno(programa_, registros, relogio_, pedido_.hoje);
     daEmpresa.commitTrans();
   }
 

@@ -22,8 +22,9 @@ struct Pedido {
 
 struct Resumo {
   std::int32_t lClientes = 0;
-  std::int32_t lFaturas = 0;
-  std::int32_t lTitulos = 0;
+  std::int32_t lFornecedores = 0;
+  std::int32_t lFaturas = 0;  ///< of both sides
+  std::int32_t lTitulos = 0;  ///< of both sides
 };
 
 /// Error 75, with a sentence for the user, when the folder holds data already: they stay as they are. After any other

@@ -47,8 +47,9 @@ int main(int quantos, char** argumentos) try {
   Processo processo(sPasta);
   const demonstracao::Resumo resumo =
       demonstracao::preencher({sPasta, sPastaArquivos(), SystemClock().today(), processo});
-  std::cout << "Demonstração pronta em " << sPasta << ": " << resumo.lClientes << " clientes, " << resumo.lFaturas
-            << " faturas, " << formatNumber(std::int64_t{resumo.lTitulos}, "#,##0") << " títulos.\n";
+  std::cout << "Demonstração pronta em " << sPasta << ": " << resumo.lClientes << " clientes, " << resumo.lFornecedores
+            << " fornecedores, " << resumo.lFaturas << " faturas, "
+            << formatNumber(std::int64_t{resumo.lTitulos}, "#,##0") << " títulos.\n";
   return 0;
 } catch (const fenvale::Error& falha) {
   std::cerr << "fenvale-demo: " << falha.description << "\n";

@@ -47,6 +47,12 @@ constexpr std::array<Palavras, 24> ramos{
     "Restaurante",  "Lanchonete",    "Oficina",      "Confecções", "Calçados",     "Móveis",
     "Transportes",  "Distribuidora", "Supermercado", "Açougue",    "Ótica",        "Livraria",
     "Agropecuária", "Gráfica",       "Informática",  "Bazar",      "Floricultura", "Serralheria"};
+/// Of those who sell to shops and workshops.
+constexpr std::array<Palavras, 24> ramosFornecedores{
+    "Distribuidora", "Atacado",     "Indústria",    "Metalúrgica",    "Importadora", "Ferragens",
+    "Tintas",        "Embalagens",  "Cerâmica",     "Transportadora", "Plásticos",   "Madeireira",
+    "Comercial",     "Laticínios",  "Frigorífico",  "Têxtil",         "Gráfica",     "Química",
+    "Parafusos",     "Componentes", "Fios e Cabos", "Equipamentos",   "Laboratório", "Telecomunicações"};
 constexpr std::array<Palavras, 32> titulos{
     "São Jorge", "Santa Rita",    "Bela Vista", "Boa Esperança", "Três Irmãos", "Nova Era", "Central",   "do Povo",
     "Bom Jesus", "Santo Antônio", "Ipiranga",   "Planalto",      "Progresso",   "Aliança",  "Real",      "Modelo",
@@ -102,6 +108,10 @@ constexpr std::array<Palavras, 10> observacoes{
     "Emitir nota fiscal com o pedido.",   "Pagamento sempre por boleto.",        "Entregar pela porta dos fundos.",
     "Confirmar o limite com a gerência.", "Retira os produtos na loja.",         "Aceita entrega aos sábados.",
     "Fechado entre meio-dia e 13h30."};
+constexpr std::array<Palavras, 8> observacoesFornecedor{
+    "Pedido mínimo de R$ 500,00.",        "Entrega às terças e quintas.", "Frete por conta do fornecedor.",
+    "Confirmar o preço antes do pedido.", "Boleto chega por correio.",    "Desconto de 2% para pagamento à vista.",
+    "Trocas somente com nota fiscal.",    "Falar sempre com o vendedor."};
 constexpr std::array<std::uint8_t, 14> ddds{11, 19, 21, 27, 31, 41, 47, 48, 51, 61, 62, 71, 81, 85};
 
 /// The place scattered over `modulo` values, each of which belongs to one place only: the factor shares no divisor with
@@ -147,8 +157,8 @@ std::string sNomeCompleto(Sorteio& sorteio, bool bMulher) {
   return sNome + " " + sSobrenomes(sorteio);
 }
 
-std::string sNomeEmpresa(Sorteio& sorteio) {
-  std::string sNome(sorteio.um(ramos));
+std::string sNomeEmpresa(Sorteio& sorteio, const std::array<Palavras, 24>& dosRamos) {
+  std::string sNome(sorteio.um(dosRamos));
   // A third of the firms bear their founder's surname.
   sNome += " " + std::string(sorteio.porCento(33) ? sorteio.um(sobrenomes) : sorteio.um(titulos));
   return sNome + " " + std::string(sorteio.um(formas));
@@ -208,18 +218,26 @@ void preencherPessoa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
   cliente.fLimiteCredito = Currency::fromInteger(std::int64_t{sorteio.entre(2, 60)} * 100);
 }
 
+void preencherFirma(Pessoa& firma, Sorteio& sorteio, std::uint32_t lugar, const std::array<Palavras, 24>& dosRamos) {
+  firma.bEmpresa = true;
+  firma.sNome = left(sNomeEmpresa(sorteio, dosRamos), 50);
+  firma.sCNPJ = sCNPJCom(espalhar(lugar, 38742049, 100000000));
+  firma.sIE = sDigitos(espalhar(lugar, 7900013, 1000000000), 9);
+  firma.sTelefone = sTelefone(sorteio, false);
+  if (sorteio.porCento(30)) firma.sFax = sTelefone(sorteio, false);
+  firma.sContato = left(sNomeCompleto(sorteio, sorteio.porCento(50)), 50);
+}
+
+void preencherRede(Pessoa& firma, Sorteio& sorteio) {
+  const std::string sRede = sApelidoRede(firma.sNome);
+  if (sorteio.porCento(70)) firma.sEmail = "contato@" + sRede + ".example";
+  if (sorteio.porCento(35)) firma.sHomePage = "www." + sRede + ".example";
+}
+
 void preencherEmpresa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
-  cliente.bEmpresa = true;
-  cliente.sNome = left(sNomeEmpresa(sorteio), 50);
-  cliente.sCNPJ = sCNPJCom(espalhar(lugar, 38742049, 100000000));
-  cliente.sIE = sDigitos(espalhar(lugar, 7900013, 1000000000), 9);
-  cliente.sTelefone = sTelefone(sorteio, false);
-  if (sorteio.porCento(30)) cliente.sFax = sTelefone(sorteio, false);
-  cliente.sContato = left(sNomeCompleto(sorteio, sorteio.porCento(50)), 50);
+  preencherFirma(cliente, sorteio, lugar, ramos);
   cliente.dtNascimento = makeDate(1960, 1, 1) + std::chrono::days(sorteio.entre(0, 22000));
-  const std::string sRede = sApelidoRede(cliente.sNome);
-  if (sorteio.porCento(70)) cliente.sEmail = "contato@" + sRede + ".example";
-  if (sorteio.porCento(35)) cliente.sHomePage = "www." + sRede + ".example";
+  preencherRede(cliente, sorteio);
   cliente.fLimiteCredito = Currency::fromInteger(std::int64_t{sorteio.entre(2, 100)} * 1000);
 }
 
@@ -266,6 +284,26 @@ Cliente cliente(std::uint64_t semente, std::uint32_t lugar) {
     novo.sBairroCobranca = sorteio.um(bairros);
     novo.sCEPCobranca = sCEP(sorteio);
   }
+  return novo;
+}
+
+Fornecedor fornecedor(std::uint64_t semente, std::uint32_t lugar) {
+  constexpr std::uint32_t antesDosFornecedores = 5'000'000;  // their numbers lie behind those of the customers
+  Sorteio sorteio(semente, 3, lugar);
+  Fornecedor novo;
+  if (sorteio.porCento(90)) {
+    preencherFirma(novo, sorteio, antesDosFornecedores + lugar, ramosFornecedores);
+    preencherRede(novo, sorteio);
+  } else {
+    novo.sNome = left(sNomeCompleto(sorteio, sorteio.porCento(30)), 50);
+    novo.sCPF = sCPFCom(espalhar(antesDosFornecedores + lugar, 387420489, 1000000000));
+    novo.sTelefone = sTelefone(sorteio, true);
+  }
+  novo.sEndereco = sEndereco(sorteio);
+  novo.sCEP = sCEP(sorteio);
+  novo.sAgencia = sMascara("####-#", sDigitos(static_cast<std::uint64_t>(sorteio.entre(10, 99999)), 5));
+  novo.sConta = sMascara("###.###-#", sDigitos(static_cast<std::uint64_t>(sorteio.entre(10000, 9999999)), 7));
+  if (sorteio.porCento(25)) novo.txtObs = sorteio.um(observacoesFornecedor);
   return novo;
 }
 

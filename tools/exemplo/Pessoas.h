@@ -1,6 +1,6 @@
 #pragma once
-// Invented customers and salespeople of a Brazilian firm: names, addresses, numbers whose check digits are right. None
-// of them is anybody's.
+// Invented customers, suppliers and salespeople of a Brazilian firm: names, addresses, numbers whose check digits are
+// right. None of them is anybody's.
 
 #include <cstdint>
 #include <string>
@@ -10,24 +10,35 @@
 
 namespace fenvale::exemplo {
 
-/// A customer as the register screen takes one, but for the keys of other tables. Texts that are left empty are empty.
-struct Cliente {
+/// What the registers of customers and suppliers both take, but for the keys of other tables. Texts that are left empty
+/// are empty.
+struct Pessoa {
   std::string sNome;
-  Currency fLimiteCredito;
-  std::string sEndereco, sBairro, sCEP;
+  std::string sEndereco, sCEP;
   std::string sTelefone, sFax, sContato;
-  std::string sRG, sCPF, sIE, sCNPJ;
-  std::string sPai, sMae;
+  std::string sCPF, sIE, sCNPJ;
   std::string sEmail, sHomePage;
-  Date dtNascimento{};
   std::string txtObs;
-  std::string sEnderecoEntrega, sBairroEntrega, sCEPEntrega;
-  std::string sEnderecoCobranca, sBairroCobranca, sCEPCobranca;
   bool bEmpresa = false;  ///< a firm: it has a CNPJ, a person has a CPF
 };
 
-/// The same for the same seed and place; no two places share a CPF, RG, CNPJ or IE (up to 10 million of them).
+struct Cliente : Pessoa {
+  Currency fLimiteCredito;
+  std::string sBairro;
+  std::string sRG;
+  std::string sPai, sMae;
+  Date dtNascimento{};
+  std::string sEnderecoEntrega, sBairroEntrega, sCEPEntrega;
+  std::string sEnderecoCobranca, sBairroCobranca, sCEPCobranca;
+};
+
+struct Fornecedor : Pessoa {
+  std::string sAgencia, sConta;
+};
+
+// The same for the same seed and place; no two of them share a CPF, RG, CNPJ or IE (up to 5 million places each).
 Cliente cliente(std::uint64_t semente, std::uint32_t lugar);
+Fornecedor fornecedor(std::uint64_t semente, std::uint32_t lugar);
 
 /// First name and surnames, at most 50 characters.
 std::string sNomePessoa(std::uint64_t semente, std::uint32_t lugar);

@@ -11,11 +11,13 @@
 #include "platform/base/Error.h"
 #include "platform/sql/Store.h"
 #include "platform/ui/test/TestHost.h"
+#include "shell/services/Validacoes.h"
 #include "store/services/BancoDados.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"
 #include "support/PlataformaDeTeste.h"
 #include "support/ProgramaDeTeste.h"
+#include "titles/services/Lado.h"
 
 namespace fenvale::demonstracao {
 namespace {
@@ -38,6 +40,9 @@ class ProgramaNaPasta {
   }
 
   std::string valor(const std::string& sSQL) { return Recordset(sSQL, programa.dbEmpresa().Dados()).field(0).toText(); }
+  int contar(const std::string& sTabela, const std::string& sCondicao = "lCodigo > 0") {
+    return std::stoi(valor("SELECT COUNT(lCodigo) AS N FROM " + sTabela + " WHERE " + sCondicao));
+  }
   std::string valorPrograma(const std::string& sSQL) {
     return Recordset(sSQL, programa.dbConectar().Dados()).field(0).toText();
   }
@@ -77,58 +82,99 @@ TEST_F(Demonstracao, OpensWithItsCompanyAndAsksForNothing) {
   EXPECT_EQ(aberto.valorPrograma("SELECT COUNT(lCodigo) AS N FROM Usuarios"), "2");
   EXPECT_EQ(aberto.valorPrograma("SELECT sNomeUsuario FROM Usuarios ORDER BY lCodigo"), "ADMINISTRADOR");
   EXPECT_EQ(aberto.valorPrograma("SELECT lTamanhoPagina FROM Configuracoes"), "100");
+  EXPECT_EQ(aberto.contar("Clientes"), 120);
+  EXPECT_EQ(aberto.contar("Fornecedores"), 40);
+  EXPECT_EQ(resumo_.lClientes, 120);
+  EXPECT_EQ(resumo_.lFornecedores, 40);
+  EXPECT_EQ(resumo_.lFaturas, aberto.contar("FaturasCliente") + aberto.contar("FaturasFornecedor"));
+  EXPECT_EQ(resumo_.lTitulos, aberto.contar("TitulosReceber") + aberto.contar("TitulosPagar"));
   EXPECT_THAT(aberto.host.boxes(), testing::IsEmpty());
 }
 
-TEST_F(Demonstracao, HoldsAYearUpToToday) {
+TEST_F(Demonstracao, TheOverviewIsOnWithAllItsLists) {
   ProgramaNaPasta aberto(pasta_->caminho());
-  EXPECT_EQ(resumo_.lClientes, 120);
-  EXPECT_GT(resumo_.lFaturas, 400);
-  EXPECT_GT(resumo_.lTitulos, 2 * resumo_.lFaturas);
-  EXPECT_EQ(aberto.valor("SELECT COUNT(lCodigo) AS N FROM TitulosReceber"), std::to_string(resumo_.lTitulos));
-  EXPECT_EQ(aberto.valor("SELECT MIN(dtEmissao) AS N FROM FaturasCliente"), "13/03/2025");
-  EXPECT_EQ(aberto.valor("SELECT MAX(dtEmissao) AS N FROM FaturasCliente"), "13/03/2026");
-  EXPECT_EQ(aberto.valor("SELECT COUNT(lCodigo) AS N FROM TitulosReceber WHERE fValorPago > 0 AND dtPagamento > "
-                         "#03/13/2026#"),
-            "0");
+  for (const char* sColuna : {"bitMostrarContasPagarDia", "bitMostrarContasReceberDia", "bitMostrarContasVencidasPagar",
+                              "bitMostrarContasVencidasReceber"})
+    EXPECT_EQ(aberto.valorPrograma(std::string("SELECT IIF(") + sColuna + " = 0, 'Não', 'Sim') AS N FROM Sistema"),
+              "Sim");
 }
 
-TEST_F(Demonstracao, ShowsEveryKindOfSettlement) {
+TEST_F(Demonstracao, SuppliersHaveABankAndFitTheirBoxes) {
   ProgramaNaPasta aberto(pasta_->caminho());
-  const auto quantos = [&aberto](const std::string& sCondicao) {
-    return std::stoi(aberto.valor("SELECT COUNT(lCodigo) AS N FROM TitulosReceber WHERE " + sCondicao));
-  };
-  EXPECT_GT(quantos("fValorPago = fValor AND fJuros = 0"), 500);
+  EXPECT_EQ(aberto.valor("SELECT COUNT(Fornecedores.lCodigo) AS N FROM ((Fornecedores INNER JOIN Cidades ON "
+                         "Fornecedores.lCidade = Cidades.lCodigo) INNER JOIN Bancos ON Bancos.lCodigo = "
+                         "Fornecedores.lBanco) INNER JOIN Categorias ON Categorias.lCodigo = Fornecedores.lCategoria "
+                         "WHERE Categorias.sNome <> '' AND sAgencia <> '' AND sConta <> ''"),
+            "40")
+      << "all of them show in their register";
+  EXPECT_GT(aberto.contar("Fornecedores", "sCNPJ <> ''"), 30);
+  EXPECT_GT(aberto.contar("Fornecedores", "sCPF <> ''"), 0);
+}
+
+using EscolhaDeLado = const Lado& (*)();
+
+/// The year of sales and the year of purchases.
+class Ano : public Demonstracao, public testing::WithParamInterface<EscolhaDeLado> {
+ protected:
+  int quantos(const std::string& sCondicao) { return aberto.contar(lado.sTitulos, sCondicao); }
+
+  const Lado& lado = GetParam()();
+  ProgramaNaPasta aberto{pasta_->caminho()};
+};
+
+TEST_P(Ano, ReachesUpToToday) {
+  const int faturas = aberto.contar(lado.sFaturas);
+  EXPECT_GT(faturas, 200);
+  EXPECT_GT(aberto.contar(lado.sTitulos), 2 * faturas);
+  EXPECT_EQ(aberto.valor("SELECT MIN(dtEmissao) AS N FROM " + lado.sFaturas).substr(3), "03/2025");
+  EXPECT_EQ(aberto.valor("SELECT MAX(dtEmissao) AS N FROM " + lado.sFaturas).substr(3), "03/2026");
+  EXPECT_EQ(aberto.contar(lado.sFaturas, "dtEmissao < #03/13/2025# OR dtEmissao > #03/13/2026#"), 0);
+  EXPECT_EQ(quantos("fValorPago > 0 AND dtPagamento > #03/13/2026#"), 0);
+}
+
+TEST_P(Ano, ShowsEveryKindOfSettlement) {
+  EXPECT_GT(quantos("fValorPago = fValor AND fJuros = 0"), 300);
   EXPECT_GT(quantos("fJuros > 0 AND fDesconto = 0"), 20);
   EXPECT_GT(quantos("fJuros > 0 AND fDesconto = fJuros"), 3);
   EXPECT_GT(quantos("MID(sCodigoInf, 8, 1) = 'R'"), 10);
   EXPECT_GT(quantos("fValorPago > fValor AND fJuros = 0"), 3);
-  EXPECT_GT(quantos("fValorPago <= 0 AND dtVencimento < #03/13/2026#"), 30);
+}
+
+TEST_P(Ano, LeavesTitlesOverdueDueTodayAndToCome) {
+  EXPECT_GT(quantos("fValorPago <= 0 AND dtVencimento < #03/13/2026#"), 10);
+  EXPECT_GE(quantos("fValorPago <= 0 AND dtVencimento = #03/13/2026#"), 3);
   EXPECT_GT(quantos("fValorPago <= 0 AND dtVencimento > #03/13/2026#"), 100);
 }
 
-TEST_F(Demonstracao, WhatIsPaidAndWhatIsOpenMakesTheTotalOfEveryInvoice) {
-  ProgramaNaPasta aberto(pasta_->caminho());
-  Recordset rs("SELECT lCodigo, fTotal FROM FaturasCliente", aberto.programa.dbEmpresa().Dados());
+TEST_P(Ano, WhatIsPaidAndWhatIsOpenMakesTheTotalOfEveryInvoice) {
+  Recordset rs("SELECT lCodigo, fTotal FROM " + lado.sFaturas, aberto.programa.dbEmpresa().Dados());
   for (; !rs.eof(); rs.moveNext()) {
-    const std::string sFatura = rs.field("lCodigo").toText();
+    const std::string sDaFatura =
+        " FROM " + lado.sTitulos + " WHERE " + lado.sLigacao + " = " + rs.field("lCodigo").toText();
     const Recordset somas(
         "SELECT IIF(ISNULL(SUM(fValorPago)), 0, SUM(fValorPago)) AS Pago, IIF(ISNULL(SUM(fJuros)), 0, "
-        "SUM(fJuros)) AS Juros, IIF(ISNULL(SUM(fDesconto)), 0, SUM(fDesconto)) AS Desconto FROM "
-        "TitulosReceber WHERE lFaturaCliente = " +
-            sFatura,
+        "SUM(fJuros)) AS Juros, IIF(ISNULL(SUM(fDesconto)), 0, SUM(fDesconto)) AS Desconto" +
+            sDaFatura,
         aberto.programa.dbEmpresa().Dados());
     const Recordset abertos(
-        "SELECT IIF(ISNULL(SUM(fValor)), 0, SUM(fValor)) AS Aberto FROM TitulosReceber WHERE "
-        "lFaturaCliente = " +
-            sFatura + " AND (fValorPago <= 0) ",
+        "SELECT IIF(ISNULL(SUM(fValor)), 0, SUM(fValor)) AS Aberto" + sDaFatura + " AND (fValorPago <= 0) ",
         aberto.programa.dbEmpresa().Dados());
     EXPECT_EQ((somas.field("Pago").toCurrency() - somas.field("Juros").toCurrency() +
                somas.field("Desconto").toCurrency() + abertos.field("Aberto").toCurrency())
                   .toDecimal(),
               rs.field("fTotal").toCurrency().toDecimal())
-        << sFatura;
+        << rs.field("lCodigo").toText();
   }
+}
+
+INSTANTIATE_TEST_SUITE_P(Lados, Ano, testing::Values(&ladoReceber, &ladoPagar),
+                         [](const auto& caso) { return caso.param().sTitulos; });
+
+TEST_F(Demonstracao, OnlyWhatIsPaidMayBearABranch) {
+  ProgramaNaPasta aberto(pasta_->caminho());
+  EXPECT_GT(aberto.contar("TitulosPagar", "sFilial = '001'"), 100);
+  EXPECT_GT(aberto.contar("TitulosPagar", "sFilial = '002'"), 20);
+  EXPECT_EQ(aberto.contar("TitulosPagar", "sFilial <> '' AND fValorPago <= 0"), 0);
 }
 
 TEST(FolderOfTheDemonstration, KeepsTheDataThatAreThere) {
@@ -145,6 +191,20 @@ TEST(FolderOfTheDemonstration, KeepsTheDataThatAreThere) {
     }
     EXPECT_THAT(pasta.nomes(), ElementsAre(sArquivo));
     EXPECT_EQ(pasta.ler(sArquivo), "algo");
+  }
+}
+
+TEST(FolderOfTheDemonstration, HasTitlesDueOnItsDayWhicheverItIs) {
+  // The first is a Sunday, and one lies thirty days before the second.
+  for (const Date dia : {makeDate(2026, 3, 15), makeDate(2026, 3, 17)}) {
+    const PastaTemporaria pasta;
+    ProcessoDeTeste processo;
+    preencher({pasta.caminho(), dados, dia, processo});
+    ProgramaNaPasta aberto(pasta.caminho());
+    for (const Lado* lado : {&ladoReceber(), &ladoPagar()})
+      EXPECT_GE(
+          aberto.contar(lado->sTitulos, "fValorPago <= 0 AND dtVencimento = #" + Validacoes::sGetDataSQL(dia) + "#"), 3)
+          << lado->sTitulos;
   }
 }
 

@@ -1,4 +1,4 @@
-// The invented customers: right by the program's own checks, and the same every time.
+// The invented customers and suppliers: right by the program's own checks, and the same every time.
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
@@ -29,6 +29,27 @@ TEST(Pessoas, TaxNumbersCarryRightCheckDigits) {
   }
 }
 
+TEST(Pessoas, SuppliersTooAreRightByTheProgramsChecks) {
+  int firmas = 0;
+  for (std::uint32_t i = 0; i < quantos; ++i) {
+    Fornecedor um = fornecedor(7, i);
+    firmas += um.bEmpresa;
+    EXPECT_TRUE(um.bEmpresa ? Validacoes::bValidarCNPJ(um.sCNPJ) : Validacoes::bValidarCPF(um.sCPF)) << um.sNome;
+    if (!um.sEmail.empty()) {
+      EXPECT_TRUE(Validacoes::bValidarEMail(um.sEmail)) << um.sEmail;
+    }
+    for (const std::string& sTexto : {um.sNome, um.sContato, um.sEmail, um.sHomePage})
+      EXPECT_LE(length(sTexto), 50U) << sTexto;
+    EXPECT_FALSE(um.sNome.empty());
+    EXPECT_FALSE(um.sEndereco.empty());
+    EXPECT_EQ(um.sAgencia.size(), 6U) << um.sAgencia;
+    EXPECT_EQ(um.sConta.size(), 9U) << um.sConta;
+  }
+  EXPECT_GT(firmas, 2500);
+  EXPECT_LT(firmas, 2900);
+  EXPECT_EQ(fornecedor(5, 12).sConta, fornecedor(5, 12).sConta);
+}
+
 TEST(Pessoas, NobodySharesANumberWithAnother) {
   std::set<std::string> numeros;
   std::size_t dados = 0;
@@ -36,6 +57,13 @@ TEST(Pessoas, NobodySharesANumberWithAnother) {
     const Cliente um = cliente(7, i);
     for (const auto& [sTipo, sNumero] : {std::pair("CPF ", um.sCPF), std::pair("CNPJ ", um.sCNPJ),
                                          std::pair("IE ", um.sIE), std::pair("RG ", um.sRG)}) {
+      if (sNumero.empty()) continue;
+      ++dados;
+      numeros.insert(sTipo + sNumero);
+    }
+    const Fornecedor outro = fornecedor(7, i);
+    for (const auto& [sTipo, sNumero] :
+         {std::pair("CPF ", outro.sCPF), std::pair("CNPJ ", outro.sCNPJ), std::pair("IE ", outro.sIE)}) {
       if (sNumero.empty()) continue;
       ++dados;
       numeros.insert(sTipo + sNumero);
