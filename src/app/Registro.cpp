@@ -4,6 +4,7 @@
 #include "access/screens/frmLocalizarUsuarios.h"
 #include "access/screens/frmLogin.h"
 #include "registers/screens/TelasDosCadastros.h"
+#include "reports/screens/frmOpcoesRelList.h"
 #include "shell/screens/frmLocalizarBD.h"
 #include "shell/screens/frmMDIPrincipal.h"
 #include "shell/screens/frmSobreApp.h"
@@ -44,6 +45,7 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmLogin>("frmLogin");
   telas.registrar<frmMDIPrincipal>("frmMDIPrincipal");
   telas.registrar<frmMensagem>("frmMensagem");
+  telas.registrar<frmOpcoesRelList>("frmOpcoesRelList");
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");

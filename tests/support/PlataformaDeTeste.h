@@ -33,6 +33,12 @@ class RelogioDeTeste final : public Clock {
 class ProcessoDeTeste final : public Process {
  public:
   [[noreturn]] void end(int exitCode) override { throw ProgramEnded{exitCode}; }
+  void openFile(const std::string& path) override {
+    if (!abreArquivos) Process::openFile(path);
+    abertos.push_back(path);
+  }
+  bool abreArquivos = true;  ///< false: no program is there for any kind of file
+  std::vector<std::string> abertos;
 };
 
 class CorreioDeTeste final : public Mailer {

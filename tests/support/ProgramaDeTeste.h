@@ -86,6 +86,7 @@ class ProgramaDeTeste final : private AmbienteDeTeste, public Programa {
 
   TestHost& hostDeTeste() { return hostDoTeste; }
   RelogioDeTeste& relogioDeTeste() { return relogioDoTeste; }
+  ProcessoDeTeste& processoDeTeste() { return processoDoTeste; }
   CorreioDeTeste& correioDeTeste() { return correioDoTeste; }
   RedeDeTeste& redeDeTeste() { return redeDoTeste; }
   ImpressorasDeTeste& impressorasDeTeste() { return impressorasDoTeste; }

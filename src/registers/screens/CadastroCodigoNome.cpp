@@ -35,7 +35,7 @@ CadastroCodigoNome::CadastroCodigoNome(Contexto& contexto, const DescricaoCodigo
       .sCampoCodigo = d.sCampoCodigo,
       .campos = {{d.sCampoCodigo, txtCodigoInf, "Informe o código."}, {d.sCampoTexto, txtNome, d.sExigencia}},
       .colunas = {{"Código", 1000, Align::right, d.sCampoCodigo, txtCodigoInf},
-                  {d.sRotulo, 9500, Align::left, d.sCampoTexto, txtNome}},
+                  {d.sRotulo, 7200, Align::left, d.sCampoTexto, txtNome}},
       .sSelecao = "SELECT lCodigo, " + d.sCampoCodigo + ", " + d.sCampoTexto + " FROM " + d.sTabela + " ",
       .sOrdem = "ORDER BY " + d.sCampoCodigo + ", " + d.sCampoTexto + " ",
       .sCondicao = d.bLinhaPadrao ? d.sCampoTexto + " <> '' " : "",

@@ -17,9 +17,9 @@ frmCadastroCondicoesPagamento::frmCadastroCondicoesPagamento(Contexto& contexto)
                  {"iIntervalo", txtIntervalo},
                  {"bitEntrada", chkEntrada}},
       .colunas = {{"Código", 1200, Align::right, "btCodigoInf", txtCodigoInf},
-                  {"Número de parcelas", 3000, Align::right, "iNumeroParcelas", txtNumeroParcelas},
-                  {"Intervalo de vecimento", 3200, Align::right, "iIntervalo", txtIntervalo},
-                  {"Com entrada", 2600, Align::centre, "ComEntrada", chkEntrada}},
+                  {"Número de parcelas", 2500, Align::right, "iNumeroParcelas", txtNumeroParcelas},
+                  {"Intervalo de vecimento", 2700, Align::right, "iIntervalo", txtIntervalo},
+                  {"Com entrada", 1500, Align::centre, "ComEntrada", chkEntrada}},
       .sSelecao = "SELECT lCodigo, btCodigoInf, iNumeroParcelas, iIntervalo, "
                   "IIF(bitEntrada = 0, 'Não', 'Sim') AS ComEntrada FROM CondicoesPagamento ",
       .sOrdem = " ORDER BY btCodigoInf ",

@@ -9,7 +9,7 @@ namespace fenvale {
 
 frmLocalizarBancos::frmLocalizarBancos(Contexto& contexto)
     : TelaEscolha(contexto, "frmLocalizarBancos", "Localizar bancos") {
-  vSetColunas({{"Código", 1000, Align::right, "iCodigoInf"}, {"Nome", 8500, Align::left, "sNome"}});
+  vSetColunas({{"Código", 1000, Align::right, "iCodigoInf"}, {"Nome", 7200, Align::left, "sNome"}});
   cmdEmitir.onClick = [this] { vEmitirLista("Cadastro de Bancos", 80); };
   vMontarTela({linha({campo("&Nome", txtNome, cresce)})}, {&cmdLocalizar, &cmdEmitir});
 }

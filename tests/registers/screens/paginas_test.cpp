@@ -169,7 +169,7 @@ TEST_F(Paginas, AWidthsFileOfAnotherLengthIsAppliedAsFarAsItGoes) {
   std::ofstream(arquivoDeLarguras(), std::ios::binary) << "<root>\r\n<size>500</size>\r\n</root>\r\n";
   auto& tela = comVendedores(1);
   EXPECT_EQ(tela.lstLista.columnWidth(1), 500);
-  EXPECT_EQ(tela.lstLista.columnWidth(2), 9500);
+  EXPECT_EQ(tela.lstLista.columnWidth(2), 7200);
   fechar(tela);
   std::ofstream(arquivoDeLarguras(), std::ios::binary)
       << "<root>\r\n<size>600</size>\r\n<size>700</size>\r\n<size>800</size>\r\n</root>\r\n";
