@@ -19,7 +19,8 @@ std::string anchorOf(const std::string& heading) {
   for (const char c : heading) {
     if (c == ' ') anchor += '-';
     if (c >= 'A' && c <= 'Z') anchor += static_cast<char>(c - 'A' + 'a');
-    if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-') anchor += c;
+    const bool accented = static_cast<unsigned char>(c) >= 0x80;
+    if ((c >= 'a' && c <= 'z') || (c >= '0' && c <= '9') || c == '-' || accented) anchor += c;
   }
   return anchor;
 }
@@ -54,9 +55,10 @@ std::vector<std::string> brokenLinks(const SourceFile& document, const std::map<
 }
 
 TEST(Links, ToNowhereAreFound) {
-  const std::map<std::string, std::string> files{{"docs/a.md", "# A\n## Adding a screen\n"}};
-  EXPECT_THAT(brokenLinks({"docs/a.md", "[x](nowhere.md) [y](#adding-a-screen) [z](#b) [w](https://a.b/c)"}, files),
-              ElementsAre("docs/a.md: nowhere.md", "docs/a.md: #b"));
+  const std::map<std::string, std::string> files{{"docs/a.md", "# A\n## Adding a screen\n## Ação\n"}};
+  EXPECT_THAT(
+      brokenLinks({"docs/a.md", "[x](nowhere.md) [y](#adding-a-screen) [z](#b) [w](https://a.b/c) [v](#ação)"}, files),
+      ElementsAre("docs/a.md: nowhere.md", "docs/a.md: #b"));
   EXPECT_THAT(brokenLinks({"README.md", "[x](docs/a.md#adding-a-screen) <img src=\"none.png\">"}, files),
               ElementsAre("README.md: none.png"));
 }
