@@ -35,6 +35,7 @@ class Server {
       std::vector<std::string> all{"python3", "-W", "ignore", script, received};
       all.insert(all.end(), words.begin(), words.end());
       std::vector<char*> pointers;
+      pointers.reserve(all.size() + 1);
       for (std::string& word : all) pointers.push_back(word.data());
       pointers.push_back(nullptr);
       // The system's own interpreter: the server's library is a package of the system.

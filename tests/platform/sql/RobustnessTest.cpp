@@ -18,8 +18,6 @@ namespace fenvale::test {
 namespace {
 
 namespace fs = std::filesystem;
-using ::testing::AnyOf;
-using ::testing::ElementsAre;
 
 constexpr int titlesOfTheSave = 40;
 
@@ -276,7 +274,7 @@ TEST_F(Files, ThatAreNoStoresAreTold) {
 
 TEST_F(Files, ThatAreDamagedAreTold) {
   const std::string file = copy("mal.MDB");
-  fs::resize_file(file, 4096 * 3);
+  fs::resize_file(file, std::uintmax_t{4096} * 3);
   EXPECT_EQ(openNumber("mal.MDB"), errors::storeDamaged);
   const std::string other = copy("pior.MDB");
   std::fstream stream(other, std::ios::in | std::ios::out | std::ios::binary);

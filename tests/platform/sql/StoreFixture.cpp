@@ -29,7 +29,7 @@ const FixedClock& TestStore::clock() {
   return day;
 }
 
-TestStore::TestStore(std::string path, LockWait* wait) : connection({clock(), wait}) {
+TestStore::TestStore(const std::string& path, LockWait* wait) : connection({clock(), wait}) {
   connection.setConnectionString("Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=" + path);
   connection.open();
 }

@@ -45,7 +45,7 @@ inline constexpr const char* companyScript = "SQLEmpresas.xmlSQL";
 /// A connection to a store that may be new.
 class TestStore {
  public:
-  explicit TestStore(std::string path, LockWait* wait = nullptr);
+  explicit TestStore(const std::string& path, LockWait* wait = nullptr);
   static void create(const std::string& path, const std::string& script);
 
   /// The statement's rows as texts, fields parted by "|".

@@ -1,6 +1,8 @@
 #pragma once
 // A program with a company open and the screens of the registers, as their tests need it.
 
+#include <gtest/gtest.h>
+
 #include <string>
 #include <vector>
 

@@ -1,6 +1,9 @@
 #pragma once
 // The invoice and title screens of one side over the small firm of Cenario, and what a clerk does at them.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "platform/base/Error.h"
 #include "registers/screens/TelasDosCadastros.h"
 #include "shell/services/Telas.h"

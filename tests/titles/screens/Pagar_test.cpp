@@ -1,5 +1,7 @@
 // The payable side where it differs from the receivable one. All that is alike is tested on both sides at once.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
 #include <limits>
 
 #include "platform/ui/Layout.h"
