@@ -4,6 +4,7 @@
 #include "platform/ui/UiHost.h"
 #include "registers/services/CampoBusca.h"
 #include "registers/services/CampoCidade.h"
+#include "shell/services/ComandosSQL.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Telas.h"
 #include "store/services/ConfiguracoesPrograma.h"
@@ -14,12 +15,6 @@ namespace {
 
 /// The form stays after a failure, so the report lets the program go on.
 constexpr int iContinuar = 2;
-
-std::string sJuntar(const std::vector<std::string>& partes) {
-  std::string sTexto;
-  for (const std::string& sParte : partes) sTexto += (sTexto.empty() ? "" : ", ") + sParte;
-  return sTexto;
-}
 
 }  // namespace
 
@@ -80,21 +75,17 @@ std::string TelaCadastro::sConsulta(const std::string& sWhere) const {
 }
 
 std::string TelaCadastro::sInclusao() const {
-  std::vector<std::string> colunasGravadas, valores;
-  for (const CampoCadastro& campoGravado : descricao_.campos) {
-    colunasGravadas.push_back(campoGravado.sColuna);
-    valores.push_back(campoGravado.valor.sLiteral());
-  }
-  return "INSERT INTO " + descricao_.sTabela + " (" + sJuntar(colunasGravadas) + ") VALUES (" + sJuntar(valores) + ")";
+  ValoresSQL valores;
+  for (const CampoCadastro& campoGravado : descricao_.campos)
+    valores.emplace_back(campoGravado.sColuna, campoGravado.valor.sLiteral());
+  return sComandoInclusao(descricao_.sTabela, valores);
 }
 
 std::string TelaCadastro::sAlteracao() const {
-  std::vector<std::string> atribuicoes;
+  ValoresSQL valores;
   for (const CampoCadastro& campoGravado : descricao_.campos)
-    atribuicoes.push_back(campoGravado.sColuna + " = " +
-                          campoGravado.naAlteracao.value_or(campoGravado.valor).sLiteral());
-  return "UPDATE " + descricao_.sTabela + " SET " + sJuntar(atribuicoes) +
-         " WHERE lCodigo = " + std::to_string(lCodigo);
+    valores.emplace_back(campoGravado.sColuna, campoGravado.naAlteracao.value_or(campoGravado.valor).sLiteral());
+  return sComandoAlteracao(descricao_.sTabela, valores, lCodigo);
 }
 
 std::string TelaCadastro::sExclusao() const {

@@ -7,7 +7,6 @@
 #include "shell/services/Contexto.h"
 #include "shell/services/Telas.h"
 #include "shell/services/TelasDeApoio.h"
-#include "shell/services/Validacoes.h"
 #include "store/services/DBConectar.h"
 
 namespace fenvale {
@@ -92,8 +91,6 @@ void TelaEmpresas::vMarcarSomente(const ListItem& item) {
     if (outro->checked() != bEste) outro->setChecked(bEste);
   }
 }
-
-std::string TelaEmpresas::sLiteral(const std::string& sTexto) { return "'" + Validacoes::sGetStringSQL(sTexto) + "'"; }
 
 std::string TelaEmpresas::sCaminhoInvalido(const std::string& sCaminho) {
   return "O caminho\r\n" + sCaminho + "\r\né inválido.";

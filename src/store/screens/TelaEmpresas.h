@@ -7,6 +7,7 @@
 
 #include "platform/ui/Menu.h"
 #include "registers/services/TelaPaginada.h"
+#include "shell/services/ComandosSQL.h"
 
 namespace fenvale {
 
@@ -22,6 +23,8 @@ class TelaEmpresas : public TelaPaginada {
     std::string sNome;
     std::string sPasta;
     std::string sCaminho() const { return sPasta + sNome; }
+    /// As it stands in the list of known companies.
+    ValoresSQL valores() const { return {{"sNomeArquivo", sTextoSQL(sNome)}, {"sCaminho", sTextoSQL(sPasta)}}; }
   };
 
   TelaEmpresas(Contexto& contexto, std::string sNome, ListView::CheckBoxes marcas);
@@ -39,7 +42,6 @@ class TelaEmpresas : public TelaPaginada {
   std::shared_ptr<ListItem> linhaMarcada();
   /// Ticks the row and no other.
   void vMarcarSomente(const ListItem& item);
-  static std::string sLiteral(const std::string& sTexto);
   static std::string sCaminhoInvalido(const std::string& sCaminho);
 };
 

@@ -63,9 +63,7 @@ void frmEmpresaAbrir::mnuEditarEmpresa_Click() {
   if (!perguntar("O registro " + arquivoDaLinha(*item).sNome + " será autalizado para\r\n" + novo->sCaminho() +
                  "\r\nConfirma a operação?"))
     return;
-  vAlterarLista("UPDATE Empresas SET sNomeArquivo = " + sLiteral(novo->sNome) + ", sCaminho = " +
-                    sLiteral(novo->sPasta) + " WHERE lCodigo = " + std::to_string(lCodigoDaChave(item->key())),
-                "mnuEditarEmpresa_Click");
+  vAlterarLista(sComandoAlteracao("Empresas", novo->valores(), lCodigoDaChave(item->key())), "mnuEditarEmpresa_Click");
 }
 
 }  // namespace fenvale

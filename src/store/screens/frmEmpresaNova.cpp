@@ -43,7 +43,7 @@ void frmEmpresaNova::vCriarEmpresa() try {
     if (!perguntar("Já existe uma referência para a empresa " + sNome +
                    ".\r\nDeseja remover essa referência e criar um novo arquivo?"))
       return avisar("Informe outro nome para a empresa.");
-    vExecutar("DELETE * FROM Empresas WHERE sNomeArquivo = " + sLiteral(sNome) + " ");
+    vExecutar("DELETE * FROM Empresas WHERE sNomeArquivo = " + sTextoSQL(sNome) + " ");
     return vCriarEmpresa();
   }
   informar("Empresa criada com sucesso.");
@@ -53,11 +53,8 @@ void frmEmpresaNova::vCriarEmpresa() try {
 }
 
 bool frmEmpresaNova::bIncluirECriar() {
-  const std::string& sNome = txtNomeArquivo.text();
-  const std::string& sPasta = txtCaminho.text();
   conexao().beginTrans();
-  vExecutar("INSERT INTO Empresas (sNomeArquivo, sCaminho) VALUES (" + sLiteral(sNome) + ", " + sLiteral(sPasta) +
-            ") ");
+  vExecutar(sComandoInclusao("Empresas", Arquivo{txtNomeArquivo.text(), txtCaminho.text()}.valores()));
   if (BancoDados(contexto()).bCriarArquivoMDB(sGetArquivo())) {
     conexao().commitTrans();
     return true;
@@ -84,9 +81,7 @@ void frmEmpresaNova::vAtualizarCampo() {
   if (!perguntar("O arquivo " + arquivo->sCaminho() +
                  " será incluído no sistema, criando referência a uma nova empresa.\r\nConfirma a operação?"))
     return;
-  vAlterarLista("INSERT INTO Empresas (sNomeArquivo, sCaminho) VALUES (" + sLiteral(arquivo->sNome) + ", " +
-                    sLiteral(arquivo->sPasta) + ")",
-                "vAtualizarCampo");
+  vAlterarLista(sComandoInclusao("Empresas", arquivo->valores()), "vAtualizarCampo");
 }
 
 void frmEmpresaNova::vExcluirCampo() {
