@@ -182,34 +182,40 @@ TEST_F(CadastrosEmJanelas, PagesAreTurnedByTheArrowsAndTheSelectorKeepsTheFocus)
   tela.unload();
 }
 
-TEST_F(CadastrosEmJanelas, ARightClickLeadsToTheTitlesOfTheCustomer) {
+TEST_F(CadastrosEmJanelas, ARightClickLeadsToTheTitlesOfTheRow) {
   executar(
       "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
       "lCidadeEntrega, lCidadeCobranca) VALUES (12, 'Bar do Élio', 0, #08/12/1975#, 1, 1, 1, 1, 1)");
-  auto& tela = dynamic_cast<frmCadastroClientes&>(abrir("frmCadastroClientes"));
-  const auto noMenu = [&](std::vector<int> teclas) {
-    QTimer aEspera;
-    QObject::connect(&aEspera, &QTimer::timeout, [&] {
-      if (QApplication::activePopupWidget() == nullptr) return;
-      aEspera.stop();
-      for (int iTecla : teclas) press(host, iTecla);
-    });
-    aEspera.start(1);
-    clickRow(tela.lstLista, 0, Qt::RightButton);
-    host.throwKept();
-  };
-  noMenu({Qt::Key_Escape});
-  EXPECT_EQ(tela.txtNome.text(), "Bar do Élio") << "loaded before the menu opens";
+  executar(
+      "INSERT INTO Fornecedores (lCodigoInf, sNome, lCategoria, lCidade, lBanco) VALUES (12, 'Bar do Élio', 1, 1, 1)");
+  for (const auto& [sTela, sTitulos] : {std::pair{"frmCadastroClientes", "frmCadastroTitulosReceber"},
+                                        std::pair{"frmCadastroFornecedores", "frmCadastroTitulosPagar"}}) {
+    auto& tela = dynamic_cast<TelaCadastro&>(abrir(sTela));
+    const auto& txtNome = dynamic_cast<TextControl&>(*tela.control("txtNome"));
+    const auto noMenu = [&](const std::vector<int>& teclas) {
+      QTimer aEspera;
+      QObject::connect(&aEspera, &QTimer::timeout, [&] {
+        if (QApplication::activePopupWidget() == nullptr) return;
+        aEspera.stop();
+        for (int iTecla : teclas) press(host, iTecla);
+      });
+      aEspera.start(1);
+      clickRow(tela.lstLista, 0, Qt::RightButton);
+      host.throwKept();
+    };
+    noMenu({Qt::Key_Escape});
+    EXPECT_EQ(txtNome.text(), "Bar do Élio") << "loaded before the menu opens";
 
-  std::string sAberta;
-  whenOpened(host, [&] {
-    sAberta = host.activeScreen()->sGetName();
-    press(host, Qt::Key_Escape);
-  });
-  noMenu({Qt::Key_Down, Qt::Key_Return});
-  EXPECT_EQ(sAberta, "frmCadastroTitulosReceber");
-  EXPECT_EQ(tela.txtNome.text(), "") << "the form is cleared when the titles close";
-  tela.unload();
+    std::string sAberta;
+    whenOpened(host, [&] {
+      sAberta = host.activeScreen()->sGetName();
+      press(host, Qt::Key_Escape);
+    });
+    noMenu({Qt::Key_Down, Qt::Key_Return});
+    EXPECT_EQ(sAberta, sTitulos);
+    EXPECT_EQ(txtNome.text(), "") << "the form is cleared when the titles close";
+    tela.unload();
+  }
 }
 
 TEST_F(CadastrosEmJanelas, SearchingAgainAndAgainFromItsButtonClosesNothing) {

@@ -266,6 +266,21 @@ TEST_P(FaturasTest, SpaceMovesThroughTheLookupBoxes) {
   EXPECT_EQ(tela.focused(), &tela.entidades.centroCusto.caixa);
 }
 
+TEST_P(FaturasTest, InsertAndTheButtonOpenThePersonsRegister) {
+  TelaFaturas& tela = faturas();
+  const auto fechar = [](Screen& cadastro) { cadastro.userKey(Key::escape); };
+  tela.entidades.pessoa.busca.vSet(2, "Bar do Élio");
+  tela.entidades.pessoa.caixa.setFocus();
+  host.expectScreen(lado.sCadastroPessoa, fechar);
+  tela.userKey(Key::insert);
+  EXPECT_EQ(tela.focused(), &tela.entidades.pessoa.caixa);
+  tela.txtTotal.setFocus();
+  host.expectScreen(lado.sCadastroPessoa, fechar);
+  tela.entidades.pessoa.cmdNovo.userClick();
+  EXPECT_EQ(tela.focused(), &tela.entidades.pessoa.caixa);
+  EXPECT_EQ(tela.entidades.pessoa.busca.lCodigo, 2) << "the register fills nothing in";
+}
+
 TEST_P(FaturasTest, TheFourControlsOfTheConditionActAsOne) {
   for (const char* nome : {"txtCondPagCodigoInf", "txtNumeroParcelas", "txtIntervalo", "chkEntrada"}) {
     escolherCondicao(tresComEntrada);

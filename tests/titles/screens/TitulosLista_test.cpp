@@ -234,6 +234,52 @@ TEST_P(TitulosListaTest, TheInvoiceThatIsPreviewedStaysWithoutTheTick) {
   }
 }
 
+TEST_P(TitulosListaTest, ThePersonsTitlesAreReachedFromTheirRegister) {
+  criarFatura("90,00");
+  pagarInteiro("000001/002", "30,00");
+  const std::vector<std::pair<const char*, std::vector<std::string>>> entradas{
+      {"mnuVerificarTitulos", {"000001/001", "000001/002", "000001/003"}},
+      {"mnuMostrarPagos", {"000001/002"}},
+      {"mnuMostrarNaoPagos", {"000001/001", "000001/003"}}};
+  auto& pessoas = carregada<TelaCadastro>(lado.sCadastroPessoa);
+  for (const auto& [nome, codigos] : entradas) {
+    host.expectPopup("mnuPopUp", nome);
+    host.expectScreen(lado.titulos.sNome, [&codigos](Screen& tela) {
+      EXPECT_EQ(primeiraColuna(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista), codigos);
+      tela.userKey(Key::escape);
+    });
+    pessoas.lstLista.userClickRow(0, MouseButton::right);
+    host.verify();
+    EXPECT_EQ(pessoas.lGetCodigo(), -1) << "the form is ready for a new record";
+  }
+  host.expectPopup("mnuPopUp", "mnuVerificarTitulos");
+  host.expectScreen(lado.titulos.sNome, [](Screen& tela) {
+    EXPECT_THAT(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista.items(), IsEmpty())
+        << "another's titles are not shown";
+    tela.userKey(Key::escape);
+  });
+  pessoas.lstLista.userClickRow(1, MouseButton::right);
+}
+
+TEST_P(TitulosListaTest, TheScreenThatLedToThePersonIsNotOpenedOverItself) {
+  criarFatura("90,00");
+  TelaTitulosCadastro& aberta = titulos();
+  host.expectScreen(lado.titulos.sNome, [&](Screen& tela) {
+    aberta.entidades.pessoa.caixa.setFocus();
+    host.expectScreen(lado.sCadastroPessoa, [&](Screen& pessoas) {
+      host.expectPopup("mnuPopUp", "mnuVerificarTitulos");
+      host.expectBox(aviso("Esta tela já está aberta."));
+      dynamic_cast<TelaCadastro&>(pessoas).lstLista.userClickRow(0, MouseButton::right);
+      pessoas.userKey(Key::escape);
+    });
+    tela.userKey(Key::insert);
+    EXPECT_EQ(&titulos(), &aberta);
+    EXPECT_EQ(aberta.focused(), &aberta.entidades.pessoa.caixa);
+    tela.userKey(Key::escape);
+  });
+  host.showModal(aberta);
+}
+
 INSTANTIATE_TEST_SUITE_P(Lados, TitulosListaTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
 
 class TitulosReceberTest : public CenarioDeTelas {
@@ -348,36 +394,6 @@ TEST_P(TitulosReceberTest, InterestBeyondAllBoundsIsReported) {
   host.verify();
   EXPECT_THAT(cenario.programa.pasta().ler("Erros/" + cenario.programa.pasta().nomes("Erros").at(0)),
               testing::HasSubstr("cmdCalcularJuros_Click"));
-}
-
-TEST_P(TitulosReceberTest, TheCustomersTitlesAreReachedFromTheCustomer) {
-  criarFatura("90,00");
-  Screen& clientes = carregada<Screen>("frmCadastroClientes");
-  host.expectPopup("mnuPopUp", "mnuVerificarTitulos");
-  host.expectScreen("frmCadastroTitulosReceber", [](Screen& tela) {
-    EXPECT_THAT(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista.items(), SizeIs(3));
-    tela.userKey(Key::escape);
-  });
-  dynamic_cast<TelaCadastro&>(clientes).lstLista.userClickRow(0, MouseButton::right);
-}
-
-TEST_P(TitulosReceberTest, TheScreenThatLedToTheCustomerIsNotOpenedOverItself) {
-  criarFatura("90,00");
-  TelaTitulosCadastro& aberta = titulos();
-  host.expectScreen("frmCadastroTitulosReceber", [&](Screen& tela) {
-    aberta.entidades.pessoa.caixa.setFocus();
-    host.expectScreen("frmCadastroClientes", [&](Screen& clientes) {
-      host.expectPopup("mnuPopUp", "mnuVerificarTitulos");
-      host.expectBox(aviso("Esta tela já está aberta."));
-      dynamic_cast<TelaCadastro&>(clientes).lstLista.userClickRow(0, MouseButton::right);
-      clientes.userKey(Key::escape);
-    });
-    tela.userKey(Key::insert);
-    EXPECT_EQ(&titulos(), &aberta);
-    EXPECT_EQ(aberta.focused(), &aberta.entidades.pessoa.caixa);
-    tela.userKey(Key::escape);
-  });
-  host.showModal(aberta);
 }
 
 INSTANTIATE_TEST_SUITE_P(Receber, TitulosReceberTest, testing::Values(&ladoReceber), nomeDoLado);
