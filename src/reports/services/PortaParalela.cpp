@@ -7,7 +7,7 @@
 namespace fenvale {
 
 std::string sGetFilaPortaParalela(Contexto& contexto) {
-  const std::string sImpressora = Funcoes(contexto).sGetNomeImpressora();
+  std::string sImpressora = Funcoes(contexto).sGetNomeImpressora();
   if (!sImpressora.empty() && sImpressora != pdfPrinterName) return sImpressora;
   return contexto.impressoras().defaultPrinter();
 }

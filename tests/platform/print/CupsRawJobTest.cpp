@@ -84,6 +84,7 @@ std::vector<std::string> jobs() {
   cups_job_t* list = nullptr;
   const int count = cupsGetJobs2(CUPS_HTTP_DEFAULT, &list, nullptr, 0, CUPS_WHICHJOBS_ALL);
   std::vector<std::string> result;
+  result.reserve(static_cast<std::size_t>(count));
   for (int i = 0; i < count; ++i) result.push_back(std::string(list[i].dest) + ": " + list[i].title);
   cupsFreeJobs(count, list);
   return result;

@@ -23,7 +23,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 using testing::Not;
 using testing::SizeIs;
-using testing::StartsWith;
 namespace fs = std::filesystem;
 
 std::string ouro(const std::string& nome) {
