@@ -2,7 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <iterator>
 #include <string_view>
+#include <utility>
 
 #include "access/services/Permissoes.h"
 #include "exemplo/Pessoas.h"
@@ -46,6 +48,16 @@ constexpr std::array<std::string_view, 6> categorias{"Consumidor final",      "C
                                                      "Prestador de serviços", "Construtora",        "Órgão público"};
 constexpr std::array<std::string_view, 5> categoriasFornecedores{"Fabricante", "Distribuidor", "Importador", "Serviços",
                                                                  "Transporte"};
+/// Whose name tells that they do not make what they sell.
+constexpr std::array<std::pair<std::string_view, std::string_view>, 8> categoriasPeloNome{
+    {{"Atacado", "Distribuidor"},
+     {"Comercial", "Distribuidor"},
+     {"Distribuidora", "Distribuidor"},
+     {"Gráfica", "Serviços"},
+     {"Importadora", "Importador"},
+     {"Laboratório", "Serviços"},
+     {"Telecomunicações", "Serviços"},
+     {"Transportadora", "Transporte"}}};
 /// The numbers of the banks where suppliers have their accounts.
 constexpr std::array<int, 7> bancos{1, 33, 41, 104, 237, 341, 756};
 constexpr std::array<std::string_view, 4> centrosCusto{"Loja", "Vendas externas", "Oficina", "Assistência técnica"};
@@ -186,7 +198,18 @@ std::vector<std::int32_t> incluirClientes(Contexto& contexto, const std::vector<
   return clientes;
 }
 
-std::vector<std::int32_t> incluirFornecedores(Contexto& contexto, const std::vector<std::int32_t>& chavesCategorias) {
+/// The place of the supplier's category.
+std::size_t categoriaDe(const exemplo::Fornecedor& fornecedor) {
+  std::string_view sCategoria = fornecedor.bEmpresa ? "Fabricante" : "Serviços";
+  for (const auto& [sInicio, sDeQuemComecaAssim] : categoriasPeloNome)
+    if (fornecedor.bEmpresa && fornecedor.sNome.starts_with(sInicio)) sCategoria = sDeQuemComecaAssim;
+  return static_cast<std::size_t>(
+      std::distance(categoriasFornecedores.begin(),
+                    std::find(categoriasFornecedores.begin(), categoriasFornecedores.end(), sCategoria)));
+}
+
+std::vector<std::int32_t> incluirFornecedores(Contexto& contexto) {
+  const auto chavesCategorias = incluirNomes(contexto, "Categorias", "sNome", categoriasFornecedores);
   Connection& dados = contexto.dbEmpresa().Dados();
   const std::vector<std::int32_t> chavesCidades = chavesDasCidades(dados);
   std::vector<std::int32_t> chavesBancos;
@@ -200,7 +223,7 @@ std::vector<std::int32_t> incluirFornecedores(Contexto& contexto, const std::vec
     ValoresSQL valores = valoresPessoa(fornecedor);
     valores.insert(valores.end(), {{"sAgencia", sTexto(fornecedor.sAgencia)},
                                    {"sConta", sTexto(fornecedor.sConta)},
-                                   {"lCategoria", std::to_string(sorteio.umDe(chavesCategorias))},
+                                   {"lCategoria", std::to_string(chavesCategorias.at(categoriaDe(fornecedor)))},
                                    {"lCidade", std::to_string(sorteio.umDe(chavesCidades))},
                                    {"lBanco", std::to_string(sorteio.umDe(chavesBancos))}});
     fornecedores.push_back(lIncluir(contexto, "Fornecedores", "lCodigoInf", std::move(valores)));
@@ -265,8 +288,7 @@ Registros cadastrarEmpresa(Contexto& contexto) {
     registros.condicoes.push_back(condicao);
   }
   registros.clientes = incluirClientes(contexto, chavesCategorias, registros.vendedores);
-  registros.fornecedores =
-      incluirFornecedores(contexto, incluirNomes(contexto, "Categorias", "sNome", categoriasFornecedores));
+  registros.fornecedores = incluirFornecedores(contexto);
   return registros;
 }
 

@@ -109,6 +109,11 @@ TEST_F(Demonstracao, SuppliersHaveABankAndFitTheirBoxes) {
       << "all of them show in their register";
   EXPECT_GT(aberto.contar("Fornecedores", "sCNPJ <> ''"), 30);
   EXPECT_GT(aberto.contar("Fornecedores", "sCPF <> ''"), 0);
+  EXPECT_EQ(aberto.valor("SELECT COUNT(Fornecedores.lCodigo) AS N FROM Fornecedores INNER JOIN Categorias ON "
+                         "Categorias.lCodigo = Fornecedores.lCategoria WHERE MID(Fornecedores.sNome, 1, 14) = "
+                         "'Transportadora' AND Categorias.sNome <> 'Transporte'"),
+            "0");
+  EXPECT_GT(aberto.contar("Fornecedores", "MID(sNome, 1, 14) = 'Transportadora'"), 0);
 }
 
 using EscolhaDeLado = const Lado& (*)();
