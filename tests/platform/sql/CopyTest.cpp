@@ -19,7 +19,6 @@ namespace fs = std::filesystem;
 using ::testing::Each;
 using ::testing::ElementsAre;
 using ::testing::StartsWith;
-using ::testing::UnorderedElementsAre;
 
 const char* const addBank = "INSERT INTO Bancos (sNome) VALUES ('x')";
 const char* const countBanks = "SELECT COUNT(lCodigo) FROM Bancos";

@@ -17,7 +17,6 @@ namespace fenvale {
 namespace {
 
 using testing::ElementsAre;
-using testing::HasSubstr;
 using testing::StartsWith;
 
 constexpr std::int16_t porCabecalho = 0;

@@ -17,7 +17,6 @@
 namespace fenvale {
 namespace {
 
-using testing::ElementsAre;
 using testing::HasSubstr;
 
 Currency valor(const char* texto) { return Currency::fromDecimal(texto); }
