@@ -16,6 +16,8 @@
 #include <iostream>
 #include <memory>
 
+#include "app/Programa.h"
+#include "demo/Plataforma.h"
 #include "exemplo/Pessoas.h"
 #include "medida/Acervo.h"
 #include "medida/Medida.h"
@@ -23,10 +25,11 @@
 #include "platform/base/Format.h"
 #include "platform/base/Text.h"
 #include "platform/os/Files.h"
+#include "platform/os/Process.h"
 #include "platform/ui/ListView.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/test/TestHost.h"
-#include "reports/services/ListagemTexto.h"
+#include "reports/services/ImpressaoList.h"
 #include "reports/services/OpcoesImpressaoList.h"
 #include "reports/services/PDF.h"
 
@@ -38,10 +41,18 @@ namespace fs = std::filesystem;
 constexpr std::int32_t linhasDoCabecalho = 5;
 constexpr int linhasPorPagina = 60;
 
-/// A full printout of customers: one line to each.
+/// Opens nothing.
+class ProcessoParado final : public Process {
+ public:
+  [[noreturn]] void end(int exitCode) override { ::_exit(exitCode); }
+  void openFile(const std::string&) override {}
+};
+
+/// A full printout of customers: one line to each. It is printed as the program prints it, down to the question ahead.
 class ListaDeClientes {
  public:
-  explicit ListaDeClientes(std::int32_t lLinhas) {
+  ListaDeClientes(std::int32_t lLinhas, const std::string& sPasta)
+      : programa_({sPasta, host_, relogio_, processo_, correio_, rede_, impressoras_}, nullptr) {
     const std::int32_t lRegistros = lLinhas - linhasDoCabecalho - 1;
     for (std::int32_t i = 1; i <= lRegistros; ++i) {
       constexpr std::uint64_t semente = 2026;
@@ -57,14 +68,22 @@ class ListaDeClientes {
     opcoes_.vSetList(lst_);
   }
 
-  void vGravar(const std::string& sArquivo) const {
-    files::Writer arquivo(sArquivo);
-    vGerarListagem(opcoes_, [&arquivo](std::string_view sBloco) { arquivo.write(sBloco); });
-    arquivo.close();
+  void vGravar(const std::string& sArquivo) {
+    host_.expectBox({BoxStyle::question, BoxButtons::yesNo, "Norvane Sistemas", "Confirma a impressão?"},
+                    BoxAnswer::yes);
+    opcoes_.vSetCaminhoArquivo(sArquivo);
+    ImpressaoList(programa_).vContruirArquivoImpressao(opcoes_);
+    host_.verify();
   }
 
  private:
   TestHost host_;
+  RelogioFixo relogio_;
+  ProcessoParado processo_;
+  demonstracao::Correio correio_;
+  demonstracao::Rede rede_;
+  demonstracao::Impressoras impressoras_;
+  Programa programa_;
   Screen tela_{host_, "frmCadastroClientes"};
   ListView lst_{
       tela_,
@@ -158,14 +177,14 @@ int medir(const Opcoes& opcoes, int quantos, char** argumentos) {
   std::unique_ptr<ListaDeClientes> pequena;
   const Picos listas = picos(
       [&] {
-        pequena = std::make_unique<ListaDeClientes>(lLinhas / 10);
-        lista = std::make_unique<ListaDeClientes>(lLinhas);
+        pequena = std::make_unique<ListaDeClientes>(lLinhas / 10, pasta.string());
+        lista = std::make_unique<ListaDeClientes>(lLinhas, pasta.string());
         pequena->vGravar(lugar("pequena.txt"));
       },
       [&] { lista->vGravar(lugar("lista.txt")); });
   const Picos pdfs = picos([&] { vGerarPDF(lugar("pequena.txt"), lugar("m.pdf")); },
                            [&] { vGerarPDF(lugar("lista.txt"), lugar("m.pdf")); });
-  lista = std::make_unique<ListaDeClientes>(lLinhas);
+  lista = std::make_unique<ListaDeClientes>(lLinhas, pasta.string());
 
   ::setenv("QT_QPA_PLATFORM", "offscreen", 1);
   ::setenv("XDG_RUNTIME_DIR", pasta.c_str(), 0);
