@@ -22,14 +22,14 @@ TelaNovoArquivo::TelaNovoArquivo(Contexto& contexto, std::string sNome, const st
   };
 }
 
-void TelaNovoArquivo::vMontarTela(std::vector<Control*> comandos) {
+void TelaNovoArquivo::vMontarTela(const std::vector<Control*>& comandos) {
   setLayout({
       linha({campo("Nome do arquivo", txtNomeArquivo, 8), campo("Caminho", txtCaminho, cresce)}),
       solto(lblLocal),
       linha({campo("Unidade", drvlstListaDiretorios, cresce)}),
       lista(drvArvoreDiretorios, "Pastas"),
       quadro("Empresas criadas", {lista(lstLista, "Empresas criadas"), paginas(scrPaginas, pbBarrra)}),
-      botoes(std::move(comandos), {&cmdFechar}),
+      botoes(comandos, {&cmdFechar}),
   });
 }
 

@@ -24,7 +24,7 @@ class TelaNovoArquivo : public TelaEmpresas {
   TelaNovoArquivo(Contexto& contexto, std::string sNome, const std::string& sLocal, ListView::CheckBoxes marcas);
 
   /// The whole picture over these commands.
-  void vMontarTela(std::vector<Control*> comandos);
+  void vMontarTela(const std::vector<Control*>& comandos);
   void onLoad() override;
   /// Whether name and folder are good for a new file; completes both, and tells what is wrong first.
   bool bVerificarArquivo();
