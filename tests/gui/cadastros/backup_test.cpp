@@ -12,7 +12,10 @@
 #include "platform/ui/qt/Probe.h"
 #include "platform/ui/qt/QtHost.h"
 #include "shell/services/Telas.h"
+#include "store/screens/frmEmpresaAbrir.h"
 #include "store/screens/frmEmpresaBackup.h"
+#include "store/screens/frmEmpresaNova.h"
+#include "store/screens/frmLocalizarArquivo.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"
 #include "support/ProgramaDeTeste.h"
@@ -34,6 +37,7 @@ class BackupEmJanelas : public testing::Test, protected AmbienteDeTeste {
   }
   BackupEmJanelas() {
     moldes.abrirEmpresa();
+    moldes.executar("INSERT INTO DadosEmpresa (sNome, lCidade) VALUES ('Loja', 1)");
     moldes.dbEmpresa().Dados().close();
     moldes.dbConectar().Dados().close();
     std::filesystem::create_directory(moldes.pasta().arquivo("copias"));
@@ -88,6 +92,50 @@ TEST_F(BackupEmJanelas, ACopyIsMadeByKeysAlone) {
   EXPECT_FALSE(tela.lstLista.item(0)->checked());
   tecla(Qt::Key_Escape);
   EXPECT_EQ(tela.state(), Screen::State::unloaded);
+}
+
+TEST_F(BackupEmJanelas, ACopyComesBackAsACompanyByKeysAlone) {
+  const std::string sCopia = "loja_260315_143207.MDB";
+  std::filesystem::copy(moldes.pasta().arquivo("loja.MDB"), moldes.pasta().arquivo("copias/" + sCopia));
+  auto& nova = dynamic_cast<frmEmpresaNova&>(programa.telas().obter("frmEmpresaNova"));
+  host.show(nova);
+  std::vector<std::string> caixas;
+  whenOpened(host, [&] {
+    auto& busca = dynamic_cast<frmLocalizarArquivo&>(*host.activeScreen());
+    busca.drvArvoreDiretorios.userChoose(moldes.pasta().arquivo("copias"));
+    tecla(Qt::Key_F6);
+    ate(busca.lstLista);
+    tecla(Qt::Key_Space);
+  });
+  // The question comes when the finder has gone.
+  QTimer pergunta;
+  QObject::connect(&pergunta, &QTimer::timeout, [&] {
+    if (host.openBox() == nullptr) return;
+    pergunta.stop();
+    caixas.push_back(host.openBox()->text);
+    press(host, Qt::Key_S);
+  });
+  pergunta.start(0);
+  tecla(Qt::Key_F6);
+  EXPECT_EQ(nova.lstLista.items().size(), 2u);
+  tecla(Qt::Key_Escape);
+
+  auto& abrir = dynamic_cast<frmEmpresaAbrir&>(programa.telas().obter("frmEmpresaAbrir"));
+  host.show(abrir);
+  ate(abrir.lstLista);
+  tecla(Qt::Key_Down);
+  tecla(Qt::Key_Space);
+  EXPECT_EQ(abrir.txtCampo.text(), moldes.pasta().arquivo("copias/" + sCopia));
+  whenOpened(host, [&] {
+    caixas.push_back(host.openBox()->text);
+    press(host, Qt::Key_Return);
+  });
+  tecla(Qt::Key_F3);
+  EXPECT_THAT(caixas, ElementsAre("O arquivo " + moldes.pasta().arquivo("copias/" + sCopia) +
+                                      " será incluído no sistema, criando referência a uma nova empresa.\r\n"
+                                      "Confirma a operação?",
+                                  "Empresa selecionada com sucesso."));
+  EXPECT_EQ(programa.empresas().sGetNomeArquivo(), sCopia);
 }
 
 }  // namespace

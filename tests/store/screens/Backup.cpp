@@ -68,7 +68,7 @@ class Backup : public TelasDeEmpresas {
     });
   }
   /// Saves, sees the copy fail, and gives back the report that was written.
-  std::string falhar(std::function<void(frmEmpresaBackup&)> antes = {}) {
+  std::string falhar(const std::function<void(frmEmpresaBackup&)>& antes = {}) {
     host.expectScreen("frmEmpresaBackup", [&](Screen& aberta) {
       auto& t = dynamic_cast<frmEmpresaBackup&>(aberta);
       preparar(t);

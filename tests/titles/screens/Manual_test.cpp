@@ -1,5 +1,8 @@
 // The worked cases of docs/manual.md, with its numbers.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "titles/screens/CenarioDeTelas.h"
 
 namespace fenvale {
