@@ -89,9 +89,10 @@ struct TrabalhoDeTeste {
 class ImpressorasDeTeste final : public PrinterService {
  public:
   std::vector<std::string> printers() override { return nomes; }
-  std::string defaultPrinter() override { return padrao; }
+  std::string defaultPrinter() override { return verdadeiras != nullptr ? verdadeiras->defaultPrinter() : padrao; }
   /// Any name but those of `nomes` is a queue that the machine does not have.
   std::unique_ptr<RawJob> openRaw(const std::string& queue, const std::string& title) override {
+    if (verdadeiras != nullptr) return verdadeiras->openRaw(queue, title);
     if (queue == pdfPrinterName || std::find(nomes.begin(), nomes.end(), queue) == nomes.end())
       return PrinterService::openRaw(queue, title);
     trabalhos.push_back(std::make_shared<TrabalhoDeTeste>(TrabalhoDeTeste{queue, title, {}}));
@@ -100,6 +101,7 @@ class ImpressorasDeTeste final : public PrinterService {
   std::vector<std::string> nomes = {"Laser do balcão", pdfPrinterName};
   std::string padrao;                      ///< empty: the machine has none
   std::size_t limite = std::string::npos;  ///< bytes that a queue takes before it fails
+  PrinterService* verdadeiras = nullptr;   ///< real queues, which take the jobs instead
   std::vector<std::shared_ptr<TrabalhoDeTeste>> trabalhos;
 
  private:

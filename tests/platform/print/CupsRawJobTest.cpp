@@ -1,14 +1,11 @@
 // Raw jobs on queues of a print server of our own, whose printer is a port of this machine.
 #include "platform/print/cups/CupsRawJob.h"
 
-#include <arpa/inet.h>
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
-#include <netinet/in.h>
 #include <sys/resource.h>
 
-#include <condition_variable>
-#include <mutex>
+#include <functional>
 
 #include "platform/print/PrintServer.h"
 #include "platform/print/cups/CupsPrinters.h"
@@ -18,66 +15,6 @@ namespace {
 
 using testing::ElementsAre;
 using testing::IsEmpty;
-
-/// A printer at the network's end: keeps what every connection sends, up to its end.
-class NetworkPrinter {
- public:
-  NetworkPrinter() : listener_(::socket(AF_INET, SOCK_STREAM, 0)) {
-    sockaddr_in address{};
-    address.sin_family = AF_INET;
-    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
-    socklen_t size = sizeof address;
-    if (::bind(listener_, reinterpret_cast<const sockaddr*>(&address), size) != 0 || ::listen(listener_, 8) != 0 ||
-        ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size) != 0)
-      throw std::runtime_error("no port for the printer");
-    port_ = ntohs(address.sin_port);
-    thread_ = std::thread([this] { receive(); });
-  }
-  ~NetworkPrinter() {
-    ::shutdown(listener_, SHUT_RDWR);
-    thread_.join();
-    ::close(listener_);
-  }
-  NetworkPrinter(const NetworkPrinter&) = delete;
-  NetworkPrinter& operator=(const NetworkPrinter&) = delete;
-
-  std::string address() const { return "socket://127.0.0.1:" + std::to_string(port_) + "/"; }
-
-  /// The first `count` prints, as soon as they are whole.
-  std::vector<std::string> prints(std::size_t count) {
-    std::unique_lock lock(mutex_);
-    arrived_.wait_for(lock, std::chrono::seconds(20), [&] { return prints_.size() >= count; });
-    return prints_;
-  }
-
- private:
-  void receive() {
-    for (;;) {
-      const int connection = ::accept(listener_, nullptr, nullptr);
-      if (connection < 0) return;
-      std::string bytes;
-      std::string block(65536, '\0');
-      for (ssize_t read = 0; (read = ::read(connection, block.data(), block.size())) > 0;)
-        bytes.append(block, 0, static_cast<std::size_t>(read));
-      ::close(connection);
-      const std::lock_guard lock(mutex_);
-      prints_.push_back(std::move(bytes));
-      arrived_.notify_all();
-    }
-  }
-
-  int listener_;
-  std::uint16_t port_ = 0;
-  std::mutex mutex_;
-  std::condition_variable arrived_;
-  std::vector<std::string> prints_;
-  std::thread thread_;
-};
-
-std::string queueAt(const std::string& name, const std::string& address, const std::string& accepting = "Yes") {
-  return "<Printer " + name + ">\nDeviceURI " + address + "\nState Idle\nAccepting " + accepting +
-         "\nShared No\n</Printer>\n";
-}
 
 /// "name: title" of every job that the server knows, done or not.
 std::vector<std::string> jobs() {

@@ -1,18 +1,25 @@
 #pragma once
+// A print server and a printer of the test's own.
 
+#include <arpa/inet.h>
+#include <netinet/in.h>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
 #include <chrono>
+#include <condition_variable>
 #include <csignal>
+#include <cstdint>
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <mutex>
 #include <stdexcept>
 #include <string>
 #include <thread>
+#include <vector>
 
 #include "support/ProgramaDeTeste.h"
 
@@ -97,5 +104,65 @@ class PrintServer {
   PastaTemporaria folder_;
   pid_t process_ = 0;
 };
+
+/// A printer at the network's end: keeps what every connection sends, up to its end.
+class NetworkPrinter {
+ public:
+  NetworkPrinter() : listener_(::socket(AF_INET, SOCK_STREAM, 0)) {
+    sockaddr_in address{};
+    address.sin_family = AF_INET;
+    address.sin_addr.s_addr = htonl(INADDR_LOOPBACK);
+    socklen_t size = sizeof address;
+    if (::bind(listener_, reinterpret_cast<const sockaddr*>(&address), size) != 0 || ::listen(listener_, 8) != 0 ||
+        ::getsockname(listener_, reinterpret_cast<sockaddr*>(&address), &size) != 0)
+      throw std::runtime_error("no port for the printer");
+    port_ = ntohs(address.sin_port);
+    thread_ = std::thread([this] { receive(); });
+  }
+  ~NetworkPrinter() {
+    ::shutdown(listener_, SHUT_RDWR);
+    thread_.join();
+    ::close(listener_);
+  }
+  NetworkPrinter(const NetworkPrinter&) = delete;
+  NetworkPrinter& operator=(const NetworkPrinter&) = delete;
+
+  std::string address() const { return "socket://127.0.0.1:" + std::to_string(port_) + "/"; }
+
+  /// The first `count` prints, as soon as they are whole.
+  std::vector<std::string> prints(std::size_t count) {
+    std::unique_lock lock(mutex_);
+    arrived_.wait_for(lock, std::chrono::seconds(20), [&] { return prints_.size() >= count; });
+    return prints_;
+  }
+
+ private:
+  void receive() {
+    for (;;) {
+      const int connection = ::accept(listener_, nullptr, nullptr);
+      if (connection < 0) return;
+      std::string bytes;
+      std::string block(65536, '\0');
+      for (ssize_t read = 0; (read = ::read(connection, block.data(), block.size())) > 0;)
+        bytes.append(block, 0, static_cast<std::size_t>(read));
+      ::close(connection);
+      const std::lock_guard lock(mutex_);
+      prints_.push_back(std::move(bytes));
+      arrived_.notify_all();
+    }
+  }
+
+  int listener_;
+  std::uint16_t port_ = 0;
+  std::mutex mutex_;
+  std::condition_variable arrived_;
+  std::vector<std::string> prints_;
+  std::thread thread_;
+};
+
+inline std::string queueAt(const std::string& name, const std::string& address, const std::string& accepting = "Yes") {
+  return "<Printer " + name + ">\nDeviceURI " + address + "\nState Idle\nAccepting " + accepting +
+         "\nShared No\n</Printer>\n";
+}
 
 }  // namespace fenvale
