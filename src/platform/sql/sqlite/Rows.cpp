@@ -120,8 +120,10 @@ class KeyedRows final : public Rows {
     return place >= blockFirst_ && place < blockFirst_ + static_cast<std::int64_t>(block_.size());
   }
 
-  /// The current row stays as it was read, also when it is deleted; those read ahead may be about to change.
+  /// The current row stays as it was read, also when it is deleted; those read ahead may be about to change. Who writes
+  /// while walking would read ahead in vain.
   void keepOnlyLookedAt() {
+    blockLength_ = 1;
     if (!inBlock(lookedAt_)) return block_.clear();
     std::vector<Value> cells = std::move(block_[static_cast<std::size_t>(lookedAt_ - blockFirst_)]);
     block_.clear();
