@@ -63,6 +63,21 @@ void OptionButton::userClick() {
   if (acceptsInput()) choose();
 }
 
+void OptionButton::userMove(int steps) {
+  std::vector<OptionButton*> group;
+  for (Control* control : screen().controls()) {
+    if (control->kind() != ControlKind::optionButton || !control->acceptsInput()) continue;
+    if (auto& other = static_cast<OptionButton&>(*control); other.group_ == group_) group.push_back(&other);
+  }
+  const auto here = std::find(group.begin(), group.end(), this);
+  if (here == group.end()) return;
+  const auto count = static_cast<int>(group.size());
+  const int place = (static_cast<int>(here - group.begin()) + steps) % count;
+  OptionButton& there = *group[static_cast<std::size_t>((place + count) % count)];
+  there.setFocus();
+  there.choose();
+}
+
 void ComboBox::reset(Date) {
   setListIndex(-1);
   setText({});

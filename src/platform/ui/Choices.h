@@ -70,6 +70,9 @@ class OptionButton final : public Control {
 
   std::function<void()> onClick;
   void userClick();
+  /// The arrows: by `steps` to another of the group, in order of construction and round its ends. That one is chosen
+  /// and has the focus.
+  void userMove(int steps);
 
  private:
   std::string caption_;

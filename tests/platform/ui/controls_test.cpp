@@ -196,6 +196,24 @@ TEST_F(ControlsTest, OnlyOneOptionOfAGroupIsChosen) {
   EXPECT_TRUE(other.chosen());
 }
 
+TEST_F(ControlsTest, TheArrowsGoRoundTheOptionsOfAGroup) {
+  OptionButton first(screen, "optA", "A", 1), other(screen, "optC", "C", 2), second(screen, "optB", "B", 1),
+      hidden(screen, "optD", "D", 1);
+  hidden.setVisible(false);
+  other.choose();
+  first.setFocus();
+  first.userMove(1);
+  EXPECT_TRUE(second.chosen());
+  EXPECT_TRUE(second.hasFocus());
+  second.userMove(1);
+  EXPECT_TRUE(first.chosen());
+  first.userMove(-1);
+  EXPECT_TRUE(second.chosen());
+  EXPECT_TRUE(other.chosen());
+  hidden.userMove(1);
+  EXPECT_TRUE(second.chosen());
+}
+
 TEST_F(ControlsTest, ThePageSelectorRaisesItsChangeAlsoWhenTheRulesMoveIt) {
   PageScroll pages(screen, "scrPaginas");
   int changes = 0;

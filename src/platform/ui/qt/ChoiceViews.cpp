@@ -136,7 +136,7 @@ QString inLines(const QString& caption, const QFontMetrics& metrics) {
 
 /// A check box or an option button: only the mark differs.
 template <typename Kind, typename Widget>
-class MarkBinding final : public BindingOf<Kind, Widget> {
+class MarkBinding : public BindingOf<Kind, Widget> {
  public:
   MarkBinding(QtHost& host, Kind& control, Widget& button, bool (Kind::*state)() const)
       : BindingOf<Kind, Widget>(host, control, button), state_(state) {
@@ -158,6 +158,28 @@ class MarkBinding final : public BindingOf<Kind, Widget> {
 
  private:
   bool (Kind::*state_)() const;
+};
+
+/// The toolkit moves among options by its own groups; here the groups are the screen's.
+class OptionMark final : public QRadioButton {
+ public:
+  OptionMark() { setAutoExclusive(false); }
+  std::function<void(int steps)> move;
+
+ protected:
+  void keyPressEvent(QKeyEvent* event) override {
+    if (event->key() == Qt::Key_Up || event->key() == Qt::Key_Left) return move(-1);
+    if (event->key() == Qt::Key_Down || event->key() == Qt::Key_Right) return move(1);
+    QRadioButton::keyPressEvent(event);
+  }
+};
+
+class OptionBinding final : public MarkBinding<OptionButton, OptionMark> {
+ public:
+  OptionBinding(QtHost& host, OptionButton& control, OptionMark& mark)
+      : MarkBinding(host, control, mark, &OptionButton::chosen) {
+    mark.move = [this](int steps) { enter([this, steps] { this->control().userMove(steps); }); };
+  }
 };
 
 /// A text that breaks into lines where its place ends; one that is shorter than `widest` never does. Its height follows
@@ -276,12 +298,7 @@ Binding& render(CheckBox& control, QtHost& host) {
   return *new MarkBinding<CheckBox, QCheckBox>(host, control, *new QCheckBox, &CheckBox::checked);
 }
 
-Binding& render(OptionButton& control, QtHost& host) {
-  auto* const button = new QRadioButton;
-  // The groups are the screen's: two of them may stand in one frame.
-  button->setAutoExclusive(false);
-  return *new MarkBinding<OptionButton, QRadioButton>(host, control, *button, &OptionButton::chosen);
-}
+Binding& render(OptionButton& control, QtHost& host) { return *new OptionBinding(host, control, *new OptionMark); }
 
 Binding& render(Label& control, QtHost& host) {
   constexpr int narrowest = 3 * measures::unit, widest = 14 * measures::unit;
