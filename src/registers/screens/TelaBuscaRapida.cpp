@@ -1,5 +1,7 @@
 #include "registers/screens/TelaBuscaRapida.h"
 
+#include <algorithm>
+
 #include "platform/sql/Store.h"
 #include "registers/screens/TelaBuscaCompleta.h"
 #include "shell/services/Telas.h"
@@ -77,6 +79,11 @@ const std::vector<DescricaoBuscaRapida>& buscasRapidas() {
   return buscas;
 }
 
+const DescricaoBuscaRapida& buscaRapida(std::string_view sNome) {
+  const auto& buscas = buscasRapidas();
+  return *std::find_if(buscas.begin(), buscas.end(), [&](const auto& busca) { return busca.sNome == sNome; });
+}
+
 TelaBuscaRapida::TelaBuscaRapida(Contexto& contexto, const DescricaoBuscaRapida& descricao)
     : TelaEscolha(contexto, descricao.sNome, descricao.sLegenda), descricao_(descricao) {
   vSetColunas(descricao.colunas);
@@ -90,7 +97,11 @@ TelaBuscaRapida::TelaBuscaRapida(Contexto& contexto, const DescricaoBuscaRapida&
 }
 
 void TelaBuscaRapida::vLocalizar(Screen& chamador) {
-  chamador_ = &chamador;
+  vAbrirPara([this, &chamador](const Recordset& rs) { descricao_.vDevolver(chamador, rs); });
+}
+
+void TelaBuscaRapida::vAbrirPara(std::function<void(const Recordset& rs)> vReceber) {
+  vReceber_ = std::move(vReceber);
   vAbrir();
 }
 
@@ -106,10 +117,10 @@ std::string TelaBuscaRapida::sConsulta() const {
 }
 
 void TelaBuscaRapida::vEscolher(std::int32_t lChave) {
-  if (chamador_ == nullptr) throw Error(errors::objectNotSet, sGetName() + " foi aberta sem a tela que usa a busca.");
+  if (!vReceber_) throw Error(errors::objectNotSet, sGetName() + " foi aberta sem a tela que usa a busca.");
   const Recordset rs("SELECT * FROM " + descricao_.sTabela + " WHERE lCodigo = " + std::to_string(lChave), conexao(),
                      CursorType::dynamic, LockType::readOnly);
-  descricao_.vDevolver(*chamador_, rs);
+  vReceber_(rs);
 }
 
 }  // namespace fenvale

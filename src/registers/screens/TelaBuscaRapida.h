@@ -3,6 +3,7 @@
 
 #include <functional>
 #include <string>
+#include <string_view>
 #include <vector>
 
 #include "registers/screens/TelaEscolha.h"
@@ -25,8 +26,10 @@ struct DescricaoBuscaRapida {
 };
 
 const std::vector<DescricaoBuscaRapida>& buscasRapidas();
+/// The description of that name, which must be one of them.
+const DescricaoBuscaRapida& buscaRapida(std::string_view sNome);
 
-class TelaBuscaRapida final : public TelaEscolha, public TelaBusca {
+class TelaBuscaRapida : public TelaEscolha, public TelaBusca {
  public:
   TelaBuscaRapida(Contexto& contexto, const DescricaoBuscaRapida& descricao);
 
@@ -34,6 +37,8 @@ class TelaBuscaRapida final : public TelaEscolha, public TelaBusca {
   std::string sConsulta() const override;
 
  protected:
+  /// Opens the search for whoever takes the picked row.
+  void vAbrirPara(std::function<void(const Recordset& rs)> vReceber);
   void vEscolher(std::int32_t lChave) override;
 
  private:
@@ -41,7 +46,7 @@ class TelaBuscaRapida final : public TelaEscolha, public TelaBusca {
 
   const DescricaoBuscaRapida& descricao_;
   std::unique_ptr<TextControl> caixa_;
-  Screen* chamador_ = nullptr;
+  std::function<void(const Recordset& rs)> vReceber_;
 };
 
 }  // namespace fenvale

@@ -10,6 +10,7 @@
 #include "registers/screens/frmLocalizarClientes.h"
 #include "registers/screens/frmLocalizarCondicoesPagamento.h"
 #include "registers/screens/frmLocalizarFornecedores.h"
+#include "registers/screens/frmLocalizarVendedoresRapido.h"
 #include "shell/services/Telas.h"
 
 namespace fenvale {
@@ -38,6 +39,8 @@ void vRegistrarTelasDosCadastros(Telas& telas) {
   telas.registrar<frmLocalizarFornecedores>("frmLocalizarFornecedores");
   telas.registrar<frmLocalizarBancos>("frmLocalizarBancos");
   vRegistrarDescritas<TelaBuscaRapida>(telas, buscasRapidas());
+  // The one with a second entry, in the place of the one described only.
+  telas.registrar<frmLocalizarVendedoresRapido>("frmLocalizarVendedoresRapido");
 }
 
 }  // namespace fenvale

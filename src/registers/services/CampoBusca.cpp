@@ -4,6 +4,7 @@
 #include "platform/ui/Screen.h"
 #include "platform/ui/UiHost.h"
 #include "registers/services/TeclasDeBusca.h"
+#include "registers/services/Vendedor.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Funcoes.h"
 #include "shell/services/TelaComLista.h"
@@ -39,15 +40,22 @@ void CampoBusca::vSetCadastro(std::string sTela, const std::string& sRotulo, But
 
 void CampoBusca::vSet(std::int32_t lChave, const std::string& sTexto) {
   lCodigo = lChave;
-  static_cast<TextControl*>(caixas_.front())->setText(sTexto);
+  caixaPrincipal().setText(sTexto);
 }
+
+TextControl& CampoBusca::caixaPrincipal() const { return static_cast<TextControl&>(*caixas_.front()); }
 
 void CampoBusca::vLimpar() {
   lCodigo = -1;
+  if (descricao_.vendedor != nullptr) descricao_.vendedor->vSetEstado(-1, "");
   for (Control* caixa : caixas_) caixa->reset({});
 }
 
-void CampoBusca::vBuscar() { contexto_.telas().obter<TelaBusca>(descricao_.sBusca).vLocalizar(tela_); }
+void CampoBusca::vBuscar() {
+  Telas& telas = contexto_.telas();
+  if (descricao_.vendedor == nullptr) return telas.obter<TelaBusca>(descricao_.sBusca).vLocalizar(tela_);
+  telas.obter<TelaBuscaVendedores>(descricao_.sBusca).vLocalizarOBJ(*descricao_.vendedor, caixaPrincipal());
+}
 
 void CampoBusca::vCadastrar(Control& caixa) {
   Funcoes(contexto_).vMostrarFormModal(sCadastro_);

@@ -17,6 +17,8 @@
 namespace fenvale {
 
 class Contexto;
+class TextControl;
+class Vendedor;
 
 class CampoBusca {
  public:
@@ -25,6 +27,8 @@ class CampoBusca {
     Control* proximo = nullptr;  ///< gets the focus after Space
     std::string sBotao;          ///< name of the magnifier's button
     std::string sRotulo;         ///< what it looks for, for its tool tip: "Localizar categoria"
+    /// Where the screen keeps the choice, when the search fills that and the main box instead of calling back.
+    Vendedor* vendedor = nullptr;
   };
 
   /// `caixas` are the controls that show the picked row and react to the three keys, the main one first.
@@ -32,7 +36,7 @@ class CampoBusca {
   CampoBusca(const CampoBusca&) = delete;
   CampoBusca& operator=(const CampoBusca&) = delete;
 
-  /// The key; -1 when none was chosen.
+  /// The key; -1 when none was chosen, and always where a Vendedor keeps the choice.
   std::int32_t lCodigo = -1;
   Button cmdBuscar;
 
@@ -50,6 +54,7 @@ class CampoBusca {
 
  private:
   bool bTecla(Control& caixa, Key tecla);
+  TextControl& caixaPrincipal() const;
   void vCadastrar(Control& caixa);
 
   Screen& tela_;

@@ -10,6 +10,7 @@
 #include "registers/screens/frmLocalizarClientes.h"
 #include "registers/screens/frmLocalizarFornecedores.h"
 #include "registers/services/Cidade.h"
+#include "registers/services/Vendedor.h"
 #include "shell/services/Contexto.h"
 
 namespace fenvale {
@@ -423,6 +424,38 @@ TEST_F(Cadastros, TheQuickSearchOfConditionsIsByTheExactCode) {
   });
   programa.telas().obter<TelaBusca>("frmLocalizarCondicoesPagamentoRapido").vLocalizar(chamadora);
   EXPECT_EQ(chamadora.recebido, "condicao|" + std::to_string(lChave) + "|12/3/30/-1");
+}
+
+TEST_F(Cadastros, TheSearchOfSalespeopleFillsAnObjectAndABoxForACallerWithoutACallback) {
+  vendedores(2);
+  struct Chamadora : Screen {
+    explicit Chamadora(UiHost& quem) : Screen(quem, "frmChamadora") {}
+    LookupBox txtVendedor{*this, "txtVendedor"};
+  } chamadora(host);
+  Vendedor vendedor;
+  EXPECT_EQ(vendedor.lGetCodigo(), -1);
+  EXPECT_STREQ(Vendedor::sGetName(), "Vendedor");
+  const auto segundaLinhaDuasVezes = [&](Screen& aberta) {
+    auto& busca = dynamic_cast<TelaBuscaRapida&>(aberta);
+    EXPECT_THAT(listados(busca.lstLista), ElementsAre("1|Vendedor 001", "2|Vendedor 002"));
+    busca.lstLista.userClickRow(1);
+    EXPECT_EQ(busca.state(), Screen::State::loaded);
+    busca.lstLista.userClickRow(1);
+  };
+  host.expectScreen("frmLocalizarVendedoresRapido", segundaLinhaDuasVezes);
+  programa.telas()
+      .obter<TelaBuscaVendedores>("frmLocalizarVendedoresRapido")
+      .vLocalizarOBJ(vendedor, chamadora.txtVendedor);
+  EXPECT_EQ(vendedor.lGetCodigo(), 2);
+  EXPECT_EQ(vendedor.sGetNome(), "Vendedor 002");
+  EXPECT_EQ(chamadora.txtVendedor.text(), "Vendedor 002");
+
+  Recebedora outra(host);
+  host.expectScreen("frmLocalizarVendedoresRapido", segundaLinhaDuasVezes);
+  vendedor.vSetEstado(-1, "");
+  programa.telas().obter<TelaBusca>("frmLocalizarVendedoresRapido").vLocalizar(outra);
+  EXPECT_EQ(outra.recebido, "vendedor|2|Vendedor 002");
+  EXPECT_EQ(vendedor.lGetCodigo(), -1);
 }
 
 class Bancos : public Cadastros {
