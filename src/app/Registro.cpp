@@ -23,6 +23,8 @@
 #include "titles/screens/frmCadastroFaturasFornecedor.h"
 #include "titles/screens/frmCadastroTitulosPagar.h"
 #include "titles/screens/frmCadastroTitulosReceber.h"
+#include "titles/screens/frmTransferenciaVendedores.h"
+#include "titles/screens/frmZerarTitulos.h"
 
 namespace fenvale {
 
@@ -49,6 +51,8 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");
+  telas.registrar<frmTransferenciaVendedores>("frmTransferenciaVendedores");
+  telas.registrar<frmZerarTitulos>("frmZerarTitulos");
 }
 
 }  // namespace fenvale
