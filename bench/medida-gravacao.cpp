@@ -1,21 +1,16 @@
 // Saving an invoice of 120 titles, down to the disk, against the same rows written by hand.
 
-#include <filesystem>
 #include <iostream>
 
-#include "app/Programa.h"
+#include "Escritorio.h"
 #include "demo/Plataforma.h"
 #include "gerador/Arquivo.h"
-#include "medida/Acervo.h"
 #include "medida/Medida.h"
 #include "platform/base/Error.h"
-#include "platform/os/System.h"
 #include "platform/sql/Store.h"
-#include "platform/xml/XmlDocument.h"
 #include "shell/services/ComandosSQL.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/DBConectar.h"
-#include "store/services/Empresas.h"
 #include "store/services/Sistema.h"
 #include "titles/services/GeradorTitulos.h"
 #include "titles/services/Lado.h"
@@ -24,55 +19,8 @@
 namespace fenvale::bancada {
 namespace {
 
-namespace fs = std::filesystem;
-
 constexpr std::int16_t iParcelas = 120;
 constexpr double barra = 1.3;
-
-/// The program on a copy of the generated company.
-class Escritorio {
- public:
-  explicit Escritorio(const Volume& volume)
-      : relogio_(RelogioFixo().today()),
-        pasta_(sEmpresaGerada(volume) + ".gravacao"),
-        programa_({pasta_, anfitriao_, relogio_, processo_, correio_, rede_, impressoras_}, nullptr) {
-    fs::remove_all(pasta_);
-    fs::create_directories(pasta_);
-    const std::string sDados = std::string(FENVALE_SOURCE_DIR) + "/data/";
-    for (const char* sNome : {"SQL.xmlSQL", "SQLEmpresas.xmlSQL", "Cidades.XML", "Bancos.XML"})
-      fs::copy_file(sDados + sNome, pasta_ + "/" + sNome);
-    fs::copy_file(sEmpresaGerada(volume), sGetEmpresa());
-    createStore(pasta_ + "/Dados.MDB");
-    programa_.dbConectar().Dados().open();
-    for (const XmlElement& elemento : XmlDocument::load(sDados + "SQL.xmlSQL").elements("SQL"))
-      const Recordset passo(elemento.children.at(0), programa_.dbConectar().Dados());
-    if (!programa_.empresas().bSetEmpresa(1, "empresa.MDB", pasta_ + "/", false))
-      throw Error(errors::storeNotOpened, "The generated company was not opened.");
-    const Recordset condicao(
-        "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (200, " +
-            std::to_string(iParcelas) + ", 30, 0)",
-        programa_.dbEmpresa().Dados());
-  }
-  ~Escritorio() {
-    std::error_code semImportancia;
-    fs::remove_all(pasta_, semImportancia);
-  }
-  Escritorio(const Escritorio&) = delete;
-  Escritorio& operator=(const Escritorio&) = delete;
-
-  std::string sGetEmpresa() const { return pasta_ + "/empresa.MDB"; }
-  Programa& programa() { return programa_; }
-
- private:
-  demonstracao::Relogio relogio_;
-  demonstracao::Anfitriao anfitriao_;
-  SystemProcess processo_;
-  demonstracao::Correio correio_;
-  demonstracao::Rede rede_;
-  demonstracao::Impressoras impressoras_;
-  std::string pasta_;
-  Programa programa_;
-};
 
 DadosSerie serie(Date hoje) { return {hoje, Currency::fromInteger(12345), Currency(), iParcelas, 30, false}; }
 
@@ -104,7 +52,7 @@ void vSalvarPelaTela(Programa& programa) {
 class AMao {
  public:
   explicit AMao(const std::string& sArquivo)
-      : arquivo_(ajustado(sArquivo)),
+      : arquivo_(abrirComoOPrograma(sArquivo)),
         iniciar_(arquivo_.preparar("BEGIN IMMEDIATE")),
         fatura_(arquivo_.preparar(
             "INSERT INTO FaturasCliente (lNumeroFatura, fTotal, fEntrada, lCliente, lCondicoesPagamento, lPortador, "
@@ -131,19 +79,18 @@ class AMao {
   }
 
  private:
-  static Arquivo ajustado(const std::string& sArquivo) {
-    Arquivo arquivo(sArquivo);
-    arquivo.executar("PRAGMA foreign_keys = ON; PRAGMA synchronous = FULL; PRAGMA cache_size = -16384");
-    return arquivo;
-  }
-
   Arquivo arquivo_;
   Comando iniciar_, fatura_, titulo_, concluir_;
 };
 
 int medir(const Opcoes& opcoes) {
   Relatorio relatorio;
-  Escritorio escritorio(opcoes.bRapido ? volumePequeno : volumeGrande);
+  demonstracao::Anfitriao anfitriao;
+  Escritorio escritorio(opcoes.bRapido ? volumePequeno : volumeGrande, anfitriao);
+  const Recordset condicao(
+      "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (200, " +
+          std::to_string(iParcelas) + ", 30, 0)",
+      escritorio.programa().dbEmpresa().Dados());
   AMao aMao(escritorio.sGetEmpresa());
   const Date hoje = RelogioFixo().today();
   const Comparacao comparacao = comparar(
