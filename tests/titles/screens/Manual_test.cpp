@@ -63,6 +63,10 @@ TEST_P(ManualTest, APartlyPaidTitleThatIsSavedAgainMakesOneMoreComplement) {
          {concluida, BoxAnswer::ok}});
   EXPECT_THAT(cenario.titulos(1), SizeIs(5));
   EXPECT_EQ(cenario.titulos(1).back(), "000001/R02 31/03/2026 40,00 pago 0,00");
+  abrirTitulo("000001/R02");
+  host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
+  titulos().userKey(Key::f4);
+  EXPECT_EQ(totalDaFatura(1), "340,00") << "the partly paid title counts whole, and its complement too";
 }
 
 TEST_P(ManualTest, AnExcessLevelsTheOpenTitles) {
