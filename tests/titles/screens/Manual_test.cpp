@@ -135,6 +135,16 @@ TEST_P(ManualTest, SavingAnInvoiceAgainLevelsTheOpenTitlesOrLosesTheSettlements)
                           "000001/003 30/05/2026 100,00 pago 0,00"));
 }
 
+TEST_P(ManualTest, AnInvoiceThatLostItsPaidTitlesIsSpreadWholeWhenItIsSavedAgain) {
+  criarFatura("300,00");
+  pagarInteiro("000001/001", "100,00");
+  cenario.executar("DELETE * FROM " + lado.sTitulos + " WHERE fValorPago > 0");
+  abrirFatura(1);
+  salvarFatura();
+  EXPECT_THAT(cenario.titulos(1),
+              ElementsAre("000001/002 30/04/2026 150,00 pago 0,00", "000001/003 30/05/2026 150,00 pago 0,00"));
+}
+
 TEST_P(ManualTest, TheCentsFallOnTheLastInstalment) {
   criarFatura("100,00");
   EXPECT_EQ(doTitulo("000001/001", "FORMAT(fValor, '0.00')").at(0), "33,33");
