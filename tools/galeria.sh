@@ -64,4 +64,5 @@ telas/frmCadastroUsuarios-claro.png galeria/usuarios
 [0-9][0-9][0-9]-pagamento-parcial.png+1 manual/pagamento-parcial
 telas/frmCadastroFornecedores-claro.png manual/fornecedor
 telas/frmEmpresaBackup-claro.png manual/backup
+telas/frmZerarTitulos-claro.png manual/eliminacao
 PICTURES
