@@ -6,8 +6,8 @@
 //   company.setConnectionString("Provider=Microsoft.Jet.OLEDB.4.0;Persist Security Info=False;Data Source=" + path);
 //   company.open();
 //   Recordset rows;
-//   rows.open("SELECT lCodigo, sNome FROM Categorias ORDER BY sNome", company, CursorType::dynamic, LockType::readOnly);
-//   for (; !rows.eof(); rows.moveNext()) use(rows.field("sNome").toText());
+//   rows.open("SELECT lCodigo, sNome FROM Categorias ORDER BY sNome", company, CursorType::dynamic,
+//   LockType::readOnly); for (; !rows.eof(); rows.moveNext()) use(rows.field("sNome").toText());
 
 #include <chrono>
 #include <cstdint>
@@ -23,6 +23,8 @@
 namespace fenvale {
 
 enum class ObjectState { closed = 0, open = 1 };
+/// A forward-only cursor reads all its rows in one pass when it is opened, for who goes through them once; the others
+/// read rows when they are looked at.
 enum class CursorType { forwardOnly = 0, keyset = 1, dynamic = 2, staticRows = 3 };
 enum class LockType { readOnly = 1, pessimistic = 2, optimistic = 3 };
 
@@ -30,12 +32,13 @@ enum class LockType { readOnly = 1, pessimistic = 2, optimistic = 3 };
 class LockWait {
  public:
   virtual ~LockWait() = default;
-  /// Called about every tenth of a second with the time waited so far. False gives the wait up: the statement then fails
-  /// with Error 3218.
+  /// Called about every tenth of a second with the time waited so far. False gives the wait up: the statement then
+  /// fails with Error 3218.
   virtual bool keepWaiting(std::chrono::milliseconds waited) = 0;
 };
 
-/// What a connection needs from its surroundings. Both outlive it. Without a LockWait a locked store is refused at once.
+/// What a connection needs from its surroundings. Both outlive it. Without a LockWait a locked store is refused at
+/// once.
 struct StoreEnvironment {
   const Clock& clock;
   LockWait* lockWait = nullptr;
@@ -93,7 +96,7 @@ class Recordset {
   /// Error 3705 when open, 3709 on a closed connection, else the provider's numbers.
   void open(std::string_view statement, Connection& connection, CursorType cursor = CursorType::keyset,
             LockType lock = LockType::optimistic);
-  void close();            ///< Error 3704 when closed
+  void close();  ///< Error 3704 when closed
   void closeIfOpen();
   ObjectState state() const;
   bool isOpen() const { return state() == ObjectState::open; }
@@ -104,8 +107,8 @@ class Recordset {
   bool eof() const;
   /// How many rows; -1 on a forward-only cursor. Worked out when first asked for.
   std::int32_t recordCount() const;
-  void moveFirst();        ///< Error 3021 on an empty set
-  void moveNext();         ///< Error 3021 when eof() already
+  void moveFirst();  ///< Error 3021 on an empty set
+  void moveNext();   ///< Error 3021 when eof() already
   /// By `rows` from the first row; beyond the end sets eof(). Error 3021 on an empty set.
   void moveFromFirst(std::int32_t rows);
   /// By `rows` from the current row, negative backwards; past an end sets eof() or bof().

@@ -105,6 +105,31 @@ TEST_F(RecordsetTest, AForwardOnlyOneCountsNothingAndStartsAgain) {
   EXPECT_EQ(rows.field("lCodigo").toLong(), 1);
 }
 
+TEST_F(RecordsetTest, AForwardOnlyOneGoesThroughTheSameRowsInTheSameSequenceAsAnyOther) {
+  fillCities(700);
+  for (const std::string statement :
+       {"SELECT lCodigo, sNome FROM Cidades", "SELECT lCodigo, sNome FROM Cidades ORDER BY sUF",
+        "SELECT lCodigo, sNome FROM Cidades WHERE lCodigo > 600 ORDER BY sUF DESC, sNome DESC"}) {
+    Recordset once(statement, connection(), CursorType::forwardOnly, LockType::readOnly);
+    Recordset other(statement, connection());
+    std::int32_t rows = 0;
+    for (; !other.eof() && !once.eof(); other.moveNext(), once.moveNext(), ++rows)
+      ASSERT_EQ(once.field("sNome"), other.field("sNome")) << statement << ", row " << rows;
+    EXPECT_TRUE(once.eof()) << statement;
+    EXPECT_EQ(rows, other.recordCount()) << statement;
+  }
+}
+
+TEST_F(RecordsetTest, AForwardOnlyOneKeepsTheRowsOfItsOpening) {
+  fillCities(300);
+  Recordset rows("SELECT lCodigo FROM Cidades ORDER BY lCodigo", connection(), CursorType::forwardOnly,
+                 LockType::readOnly);
+  run("DELETE * FROM Cidades WHERE lCodigo > 10");
+  std::int32_t last = 0;
+  for (; !rows.eof(); rows.moveNext()) last = rows.field("lCodigo").toLong();
+  EXPECT_EQ(last, 300);
+}
+
 TEST_F(RecordsetTest, LongListsAreReadFromAnywhere) {
   fillCities(2000);
   Recordset rows("SELECT lCodigo, sNome FROM Cidades WHERE sUF = 'MG' ORDER BY sUF, sNome", connection());

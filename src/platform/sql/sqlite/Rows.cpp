@@ -20,7 +20,7 @@ void readCells(const Prepared& prepared, const Translation& translation, std::ve
     cells.push_back(prepared.value(index, translation.columns[index].type));
 }
 
-/// All rows read at once: groups, aggregates, and what no key leads to.
+/// All rows read at once: groups, aggregates, what no key leads to, and what is gone through once.
 class WholeRows final : public Rows {
  public:
   WholeRows(Database& database, const BoundRun& run) {
@@ -173,7 +173,7 @@ class KeyedRows final : public Rows {
   std::int64_t first_ = 0;
   bool ended_ = false;  ///< no row follows the window
   std::int64_t counted_ = -1;
-  bool settled_ = false;  ///< the window holds all keys, and they are final
+  bool settled_ = false;                   ///< the window holds all keys, and they are final
   std::vector<std::vector<Value>> block_;  ///< the cells of the rows blockFirst_ and on
   std::int64_t blockFirst_ = 0;
   std::int64_t blockLength_ = 1;
@@ -182,8 +182,8 @@ class KeyedRows final : public Rows {
 
 }  // namespace
 
-std::unique_ptr<Rows> openRows(Database& database, BoundRun run) {
-  if (run.translation->keyed) return std::make_unique<KeyedRows>(database, std::move(run));
+std::unique_ptr<Rows> openRows(Database& database, BoundRun run, bool atOnce) {
+  if (run.translation->keyed && !atOnce) return std::make_unique<KeyedRows>(database, std::move(run));
   return std::make_unique<WholeRows>(database, run);
 }
 

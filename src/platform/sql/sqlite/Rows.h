@@ -20,6 +20,8 @@ class Rows {
   virtual void settle() {}
 };
 
-std::unique_ptr<Rows> openRows(Database& database, BoundRun run);
+/// `atOnce` reads all rows in one pass, for who will go through all of them; otherwise they are found by their keys, as
+/// far as the statement allows that.
+std::unique_ptr<Rows> openRows(Database& database, BoundRun run, bool atOnce);
 
 }  // namespace fenvale::sql

@@ -84,7 +84,7 @@ class Connection::Implementation {
     recordset.translation = bound.translation;
     switch (bound.translation->kind) {
       case Translation::Kind::select:
-        recordset.rows = openRows(*database, std::move(bound));
+        recordset.rows = openRows(*database, std::move(bound), recordset.cursor == CursorType::forwardOnly);
         recordset.connection = this;
         recordsets.insert(&recordset);
         break;

@@ -43,6 +43,9 @@ void translateSelect(const BoundSelect& select, Translation& translation) {
   const std::string next = std::to_string(translation.parameters.size() + 1);
   const std::string afterNext = std::to_string(translation.parameters.size() + 2);
   translation.keyed = true;
+  BoundSelect whole = select;
+  whole.orderBy = plan->keys.orderBy;  // the same sequence, whichever way the rows are read
+  translation.wholeText = SqliteEmitter().emit(whole);
   translation.rowIsKey = plan->rowIsKey;
   translation.keysText = SqliteEmitter().emit(plan->keys) + " LIMIT ?" + next + " OFFSET ?" + afterNext;
   translation.countText = SqliteEmitter().emit(plan->count);
