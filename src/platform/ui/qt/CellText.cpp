@@ -24,42 +24,51 @@ double widestDigit(const QFontMetricsF& metrics) {
   return widest;
 }
 
-/// Where each letter begins, and at the end the whole width.
-std::vector<double> steps(const QFont& font, const QString& text) {
-  const QFontMetricsF metrics(font);
-  const double digit = widestDigit(metrics);
-  std::vector<double> places{0};
-  for (const QChar letter : text)
-    places.push_back(places.back() + (letter.isDigit() ? digit : metrics.horizontalAdvance(letter)));
-  return places;
-}
+/// A text of figures, each digit in a place of the widest one's width.
+class Figures {
+ public:
+  Figures(const QFont& font, const QString& text) : text_(text), metrics_(font), digit_(widestDigit(metrics_)) {
+    for (const QChar letter : text) width_ += step(letter);
+  }
+  double width() const { return width_; }
+
+  void draw(QPainter& painter, double x, double middle) const {
+    const double baseline = middle + (metrics_.ascent() - metrics_.descent()) / 2;
+    for (const QChar letter : text_) {
+      const double inset = letter.isDigit() ? (digit_ - metrics_.horizontalAdvance(letter)) / 2 : 0;
+      painter.drawText(QPointF(x + inset, baseline), letter);
+      x += step(letter);
+    }
+  }
+
+ private:
+  double step(QChar letter) const { return letter.isDigit() ? digit_ : metrics_.horizontalAdvance(letter); }
+
+  const QString& text_;
+  QFontMetricsF metrics_;
+  double digit_;
+  double width_ = 0;
+};
 
 }  // namespace
 
 double cellTextWidth(const QFont& font, const QString& text) {
-  return isFigure(text) ? steps(font, text).back() : QFontMetricsF(font).horizontalAdvance(text);
+  return isFigure(text) ? Figures(font, text).width() : QFontMetricsF(font).horizontalAdvance(text);
 }
 
 void drawCellText(QPainter& painter, const QRectF& place, const QString& text, Qt::Alignment alignment) {
   if (text.isEmpty()) return;
-  const double width = isFigure(text) ? steps(painter.font(), text).back() : 0;
-  if (width <= 0 || width > place.width()) {
-    const QString shown = QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, place.width());
-    painter.drawText(place, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
-    return;
+  if (isFigure(text)) {
+    const Figures figures(painter.font(), text);
+    if (figures.width() <= place.width()) {
+      double x = place.left();
+      if ((alignment & Qt::AlignRight) != 0) x = place.right() - figures.width();
+      if ((alignment & Qt::AlignHCenter) != 0) x = place.center().x() - figures.width() / 2;
+      return figures.draw(painter, x, place.center().y());
+    }
   }
-  double x = place.left();
-  if ((alignment & Qt::AlignRight) != 0) x = place.right() - width;
-  if ((alignment & Qt::AlignHCenter) != 0) x = place.center().x() - width / 2;
-  const auto places = steps(painter.font(), text);
-  const QFontMetricsF metrics(painter.font());
-  const double baseline = place.center().y() + (metrics.ascent() - metrics.descent()) / 2;
-  const double digit = widestDigit(metrics);
-  for (qsizetype index = 0; index < text.size(); ++index) {
-    const QChar letter = text[index];
-    const double inset = letter.isDigit() ? (digit - metrics.horizontalAdvance(letter)) / 2 : 0;
-    painter.drawText(QPointF(x + places[static_cast<std::size_t>(index)] + inset, baseline), letter);
-  }
+  const QString shown = QFontMetricsF(painter.font()).elidedText(text, Qt::ElideRight, place.width());
+  painter.drawText(place, static_cast<int>(alignment | Qt::AlignVCenter) | Qt::TextSingleLine, shown);
 }
 
 }  // namespace fenvale::qt

@@ -211,7 +211,14 @@ QFont interfaceFont(double points, QFont::Weight weight) {
 
 }  // namespace
 
-Theme::Theme(Scheme scheme) : scheme_(scheme), tokens_(scheme == Scheme::dark ? darkTokens() : lightTokens()) {}
+Theme::Theme(Scheme scheme)
+    : scheme_(scheme),
+      tokens_(scheme == Scheme::dark ? darkTokens() : lightTokens()),
+      baseFont_(interfaceFont(10, QFont::Normal)),
+      labelFont_(interfaceFont(9, QFont::Normal)),
+      titleFont_(interfaceFont(15, QFont::DemiBold)),
+      strongFont_(interfaceFont(10, QFont::DemiBold)),
+      displayFont_(interfaceFont(26, QFont::DemiBold)) {}
 
 QPalette Theme::palette() const {
   const Tokens& t = tokens_;
@@ -257,12 +264,6 @@ QString Theme::styleSheet() const {
   for (const auto& [name, colour] : names) text.replace(QLatin1String(name), colour.name());
   return text;
 }
-
-QFont Theme::baseFont() const { return interfaceFont(10, QFont::Normal); }
-QFont Theme::labelFont() const { return interfaceFont(9, QFont::Normal); }
-QFont Theme::titleFont() const { return interfaceFont(15, QFont::DemiBold); }
-QFont Theme::displayFont() const { return interfaceFont(26, QFont::DemiBold); }
-QFont Theme::strongFont() const { return interfaceFont(10, QFont::DemiBold); }
 
 QColor Theme::translated(std::int32_t colour) const {
   if (colour == 0) return tokens_.text;

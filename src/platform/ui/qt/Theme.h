@@ -47,11 +47,11 @@ class Theme {
   QPalette palette() const;
   QString styleSheet() const;
 
-  QFont baseFont() const;
-  QFont labelFont() const;
-  QFont titleFont() const;
-  QFont strongFont() const;
-  QFont displayFont() const;
+  const QFont& baseFont() const { return baseFont_; }
+  const QFont& labelFont() const { return labelFont_; }
+  const QFont& titleFont() const { return titleFont_; }
+  const QFont& strongFont() const { return strongFont_; }
+  const QFont& displayFont() const { return displayFont_; }
 
   /// A colour of the rules (red in the low byte) as it reads on this scheme: 0 is the text's, 192 the dark red.
   QColor translated(std::int32_t colour) const;
@@ -59,6 +59,8 @@ class Theme {
  private:
   Scheme scheme_;
   Tokens tokens_;
+  // Made once: asking the system which families it has takes longer than painting a cell.
+  QFont baseFont_, labelFont_, titleFont_, strongFont_, displayFont_;
 };
 
 /// The scheme of the system's own colours; ask before a palette of the program's was set.
