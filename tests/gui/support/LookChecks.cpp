@@ -163,6 +163,7 @@ std::vector<std::string> faultsOf(QtHost& host, Screen& screen) {
   if (strips.isEmpty()) look();
   for (QTabWidget* const strip : strips)
     for (int tab = 0; tab < strip->count(); ++tab) {
+      if (!strip->isTabVisible(tab)) continue;
       strip->setCurrentIndex(tab);
       look();
     }

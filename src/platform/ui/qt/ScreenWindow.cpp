@@ -247,7 +247,9 @@ void ScreenWindow::controlVisibilityChanged() {
     if (group.tabs == nullptr) {
       group.page->setVisible(any);
     } else {
-      group.tabs->setTabVisible(group.tabs->indexOf(group.page), any);
+      const int tab = group.tabs->indexOf(group.page);
+      group.tabs->setTabVisible(tab, any);
+      group.tabs->setTabEnabled(tab, any);  // Ctrl+Tab stops at tabs that are hidden and nothing else
     }
   }
 }
