@@ -127,7 +127,14 @@ class ComboBox final : public Control {
 
 class Label final : public Control {
  public:
-  enum class Style { plain, title, muted, help, link };
+  enum class Style {
+    plain,
+    title,
+    muted,
+    help,
+    link,
+    total,  ///< a sum, at the right end of its place
+  };
   Label(Screen& owner, std::string name, std::string caption = {}, Style style = Style::plain);
   ControlKind kind() const override { return ControlKind::label; }
   bool takesFocus() const override { return false; }

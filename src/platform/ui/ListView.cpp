@@ -55,7 +55,13 @@ void ListView::setColumnWidth(std::size_t column, float twips) {
 }
 
 std::shared_ptr<ListItem> ListView::addItem(std::string key, std::string text) {
-  items_.push_back(std::make_shared<ListItem>(*this, std::move(key), std::move(text)));
+  std::vector<std::string> cells;
+  cells.push_back(std::move(text));
+  return addItem(std::move(key), std::move(cells));
+}
+
+std::shared_ptr<ListItem> ListView::addItem(std::string key, std::vector<std::string> cells) {
+  items_.push_back(std::make_shared<ListItem>(*this, std::move(key), std::move(cells)));
   changed(Aspect::items);
   return items_.back();
 }
@@ -87,10 +93,14 @@ void ListView::sortAgain() {
   changed(Aspect::items);
 }
 
-void ListView::userMoveCursor(std::size_t index) {
-  if (!acceptsInput() || index >= items_.size()) return;
-  selected_ = items_[index];
+void ListView::moveCursor(std::size_t index) {
+  if (items_.empty()) return;
+  selected_ = items_[std::min(index, items_.size() - 1)];
   changed(Aspect::selection);
+}
+
+void ListView::userMoveCursor(std::size_t index) {
+  if (acceptsInput() && index < items_.size()) moveCursor(index);
 }
 
 void ListView::userClickRow(std::size_t index, MouseButton button) {

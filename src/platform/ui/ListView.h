@@ -25,8 +25,9 @@ using Colour = std::int32_t;
 
 class ListItem {
  public:
-  ListItem(ListView& list, std::string key, std::string text)
-      : list_(&list), key_(std::move(key)), cells_{std::move(text)} {}
+  /// At least the first cell.
+  ListItem(ListView& list, std::string key, std::vector<std::string> cells)
+      : list_(&list), key_(std::move(key)), cells_(std::move(cells)) {}
 
   const std::string& key() const { return key_; }
   /// The first column.
@@ -72,11 +73,15 @@ class ListView final : public Control {
   bool hasCheckBoxes() const { return checks_ == CheckBoxes::perRow; }
 
   std::shared_ptr<ListItem> addItem(std::string key, std::string text);
+  /// With its sub-items at once: the text of the first column, then theirs.
+  std::shared_ptr<ListItem> addItem(std::string key, std::vector<std::string> cells);
   void clear();
   const std::vector<std::shared_ptr<ListItem>>& items() const { return items_; }
   std::shared_ptr<ListItem> item(std::size_t index) const { return items_.at(index); }
   /// The row under the list's own cursor, or nothing.
   std::shared_ptr<ListItem> selectedItem() const { return selected_.lock(); }
+  /// Puts that cursor on a row, or on the last one when there are fewer, and picks nothing.
+  void moveCursor(std::size_t index);
 
   /// Sorts the rows by the text of a 0-based column. Equal rows keep their sequence. `compare` answers below, equal or
   /// above 0 for two texts.

@@ -263,6 +263,26 @@ TEST_F(ControlsTest, TheCursorPicksNothingAndAClickDoes) {
   EXPECT_THAT(clicks, ElementsAre("right", "000001"));
 }
 
+TEST_F(ControlsTest, ARowMayComeWithAllItsCells) {
+  ListView list(screen, "lstLista", {{"Código"}, {"Nome"}, {"Cidade"}});
+  const auto row = list.addItem("000001", std::vector<std::string>{"1", "Varejo", "Santos"});
+  EXPECT_EQ(row->text(), "1");
+  EXPECT_EQ(row->subItemCount(), 2U);
+  EXPECT_EQ(row->subItem(2), "Santos");
+}
+
+TEST_F(ControlsTest, TheRulesPutTheCursorOnARowOrOnTheLastOne) {
+  ListView list(screen, "lstLista", {{"Código"}});
+  list.onItemClick = [](const std::shared_ptr<ListItem>&) { FAIL() << "nothing is picked"; };
+  list.moveCursor(0);
+  EXPECT_EQ(list.selectedItem(), nullptr);
+  for (const char* key : {"000001", "000002"}) list.addItem(key, key);
+  list.moveCursor(0);
+  EXPECT_EQ(list.selectedItem()->key(), "000001");
+  list.moveCursor(7);
+  EXPECT_EQ(list.selectedItem()->key(), "000002");
+}
+
 TEST_F(ControlsTest, SortingIsStableAndByTheTextOfTheCells) {
   ListView list(screen, "lstLista", {{"Código"}, {"Nome"}});
   for (const char* row : {"b1", "a1", "b2"}) list.addItem(row, row)->setSubItem(1, std::string(1, row[0]));

@@ -322,6 +322,10 @@ Binding& render(Label& control, QtHost& host) {
     case Label::Style::link:
       label->setProperty("role", "link");
       break;
+    case Label::Style::total:
+      label->setFont(host.theme().titleFont());
+      label->setAlignment(Qt::AlignRight | Qt::AlignVCenter);
+      break;
     case Label::Style::plain:
       break;
   }

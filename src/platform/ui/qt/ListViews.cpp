@@ -1,4 +1,5 @@
-// The list in report style. The cursor moves with the arrow keys and picks nothing; the mouse and Space pick.
+// The list in report style. The cursor moves with the arrow keys and picks nothing; the mouse and Space pick. The menu
+// key, or Shift+F10, is the right button; Ctrl+O offers the headings to sort by.
 
 #include <QClipboard>
 #include <QGuiApplication>
@@ -138,6 +139,7 @@ class RowsView final : public QTreeView {
   std::function<void()> clickedNowhere;  ///< the right button, or the menu key, where no row is
   std::function<void(int row)> doubleClickedRow;
   std::function<void(int row)> ticked;
+  std::function<void(int column)> clickedColumn;
   bool ticks = false;
 
  protected:
@@ -169,7 +171,8 @@ class RowsView final : public QTreeView {
   }
   void keyPressEvent(QKeyEvent* event) override {
     if (event->matches(QKeySequence::Copy)) return copyRows();
-    if (event->key() == Qt::Key_Menu)
+    if (event->key() == Qt::Key_O && event->modifiers() == Qt::ControlModifier) return offerColumns();
+    if (event->key() == Qt::Key_Menu || (event->key() == Qt::Key_F10 && event->modifiers() == Qt::ShiftModifier))
       return currentIndex().isValid() ? clickedRow(currentIndex().row(), MouseButton::right) : clickedNowhere();
     if (event->key() != Qt::Key_Space || !currentIndex().isValid()) return QTreeView::keyPressEvent(event);
     const int row = currentIndex().row();
@@ -217,6 +220,18 @@ class RowsView final : public QTreeView {
     QGuiApplication::clipboard()->setText(cells.join(u'\t'));
   }
 
+  void offerColumns() {
+    auto* const menu = new QMenu(this);
+    menu->setAttribute(Qt::WA_DeleteOnClose);
+    for (int column = 0; column < model()->columnCount(); ++column) {
+      if (isColumnHidden(column)) continue;
+      const QString heading = model()->headerData(column, Qt::Horizontal, Qt::DisplayRole).toString();
+      menu->addAction(heading, this, [this, column] { clickedColumn(column); });
+    }
+    menu->popup(mapToGlobal(QPoint(0, header()->height())));
+    menu->setActiveAction(menu->actions().value(0));
+  }
+
   const QtHost& host_;
 };
 
@@ -259,6 +274,7 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
         showColumns();
         break;
       case Aspect::items:
+        if (later_->isActive()) break;
         later_->start();
         view().viewport()->update();
         break;
@@ -290,9 +306,13 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
       const ListItem* const item = rows_->item(row);
       if (item != nullptr) enter([&] { control().userCheckRow(static_cast<std::size_t>(row), !item->checked()); });
     };
+    view().clickedColumn = [this](int column) {
+      enter([&] { control().userClickColumn(static_cast<std::size_t>(column) + 1); });
+    };
     QHeaderView* const header = view().header();
-    connect(header, &QHeaderView::sectionClicked, this,
-            [this](int section) { enter([&] { control().userClickColumn(static_cast<std::size_t>(section) + 1); }); });
+    if (control().onColumnClick)
+      header->setToolTip(QStringLiteral("Um clique ordena a lista · Ctrl+O escolhe a coluna pelo teclado"));
+    connect(header, &QHeaderView::sectionClicked, this, [this](int section) { view().clickedColumn(section); });
     connect(header, &QHeaderView::sectionResized, this, [this](int section, int, int pixels) {
       if (!showing_) enter([&] { control().userResizeColumn(static_cast<std::size_t>(section) + 1, twipsOf(pixels)); });
     });
