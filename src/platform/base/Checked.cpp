@@ -65,9 +65,12 @@ std::int32_t readInt32(std::string_view text) {
   const bool negative = text[place] == '-';
   if (negative || text[place] == '+') ++place;
   std::int64_t value = 0;
-  for (; place < text.size() && text[place] >= '0' && text[place] <= '9'; ++place)
+  for (; place < text.size(); ++place) {
+    if (text[place] == ' ') continue;
+    if (text[place] < '0' || text[place] > '9') break;
     // One digit beyond the range is enough to know; the sign decides on the last step.
     value = std::min<std::int64_t>(value * 10 + (text[place] - '0'), std::int64_t{1} << 32);
+  }
   return toInt32(negative ? -value : value);
 }
 

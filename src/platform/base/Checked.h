@@ -18,8 +18,9 @@ std::int64_t addChecked(std::int64_t left, std::int64_t right);
 std::int64_t subtractChecked(std::int64_t left, std::int64_t right);
 std::int64_t multiplyChecked(std::int64_t left, std::int64_t right);
 
-/// The number that a text starts with: blanks are skipped, reading stops at the first character that belongs to no
-/// number, and a text without one is 0 ("00000123" is 123). Error 6 when it leaves the 32-bit range.
+/// The number that a text starts with: blanks are skipped wherever they stand, reading stops at the first character
+/// that belongs to no number, and a text without one is 0 ("00000 123" is 123). Error 6 when it leaves the 32-bit
+/// range.
 std::int32_t readInt32(std::string_view text);
 
 }  // namespace fenvale

@@ -55,6 +55,7 @@ TEST(Checked, ArithmeticNeverWraps) {
 TEST(Checked, ANumberIsReadAsFarAsATextHoldsOne) {
   EXPECT_EQ(readInt32("00000123"), 123);
   EXPECT_EQ(readInt32("  42 itens"), 42);
+  EXPECT_EQ(readInt32("00000 123"), 123);
   EXPECT_EQ(readInt32("-7"), -7);
   EXPECT_EQ(readInt32(""), 0);
   EXPECT_EQ(readInt32("abc"), 0);
