@@ -110,6 +110,7 @@ class Volumes {
     arquivo_.executar("PRAGMA journal_mode=OFF; PRAGMA synchronous=OFF; PRAGMA cache_size=-262144; BEGIN");
     vInserirClientes();
     vInserirFaturas();
+    if (pedido_.vencidos) vPagarVencidos(*pedido_.vencidos);
     arquivo_.executar("COMMIT; PRAGMA synchronous=FULL; PRAGMA journal_mode=DELETE");
   }
 
@@ -162,6 +163,15 @@ class Volumes {
                    t.fJuros.units(), t.fDesconto.units(), t.lNF, t.sObs, lCodigo)
             .executar();
     }
+  }
+
+  /// Those that stay are of all customers and all days: the order has no pattern, yet it is the same every time.
+  void vPagarVencidos(std::uint32_t restam) {
+    arquivo_.executar(
+        "UPDATE TitulosReceber SET fValorPago = fValor, dtPagamento = dtVencimento WHERE lCodigo IN (SELECT lCodigo "
+        "FROM TitulosReceber WHERE fValorPago <= 0 AND dtVencimento < '" +
+        sDia(pedido_.hoje) + "' ORDER BY lCodigo * 7919 % 1000003, lCodigo LIMIT -1 OFFSET " + std::to_string(restam) +
+        ")");
   }
 
   static std::string sDia(Date dia) { return formatDate(dia, "yyyy-mm-dd"); }

@@ -2,6 +2,7 @@
 // A company's store of any size, filled the same way every time.
 
 #include <cstdint>
+#include <optional>
 #include <string>
 
 #include "gerador/Negocios.h"
@@ -15,6 +16,8 @@ struct PedidoEmpresa {
   Volume volume{};
   Date hoje{};  ///< the day up to which business was done
   std::uint64_t semente = 1;
+  /// How many unpaid titles are overdue on `hoje`, where business left more of them: the others were paid on their day.
+  std::optional<std::uint32_t> vencidos{};
 };
 
 /// Makes the file anew from the project's script: tables, registers and seeds by statements in the program's dialect,

@@ -2,6 +2,7 @@
 // The generated stores that the measuring programs share. Making the large one takes a while, so it is kept beside the
 // programs and made anew only when the tables' script or the generator changed.
 
+#include <optional>
 #include <string>
 
 #include "gerador/Negocios.h"
@@ -19,8 +20,8 @@ class RelogioFixo final : public Clock {
   DateTime now() const override { return today(); }
 };
 
-/// The path of the store of that size, made when needed. Who writes to it leaves
+/// The path of the store of that size, made when needed; `vencidos` as the generator takes it. Who writes to it leaves
 /// its rows as they were.
-std::string sEmpresaGerada(const Volume& volume);
+std::string sEmpresaGerada(const Volume& volume, std::optional<std::uint32_t> vencidos = {});
 
 }  // namespace fenvale::bancada
