@@ -3,6 +3,7 @@
 #include <utility>
 
 #include "access/services/Permissoes.h"
+#include "overview/services/QuadroGeralContas.h"
 #include "platform/ui/Screen.h"
 #include "shell/services/JanelaPrincipal.h"
 #include "shell/services/Telas.h"
@@ -58,6 +59,8 @@ Empresas& Programa::empresas() { return criado(empresas_, *this); }
 Permissoes& Programa::permissoes() { return criado(permissoes_, *this); }
 TratadorExcessoes& Programa::tratadorExcessoes() { return criado(tratadorExcessoes_, *this); }
 ConfiguracoesPrograma& Programa::configuracoes() { return criado(configuracoes_); }
+
+QuadroGeralContas& Programa::quadroGeralContas() { return criado(quadroGeralContas_, *this); }
 
 JanelaPrincipal& Programa::janelaPrincipal() {
   if (telas_->bExiste(sJanelaPrincipal)) return telas_->obter<JanelaPrincipal>(sJanelaPrincipal);

@@ -44,6 +44,7 @@ class Programa : public Contexto {
   Permissoes& permissoes() override;
   TratadorExcessoes& tratadorExcessoes() override;
   ConfiguracoesPrograma& configuracoes() override;
+  QuadroGeralContas& quadroGeralContas() override;
   JanelaPrincipal& janelaPrincipal() override;
   Telas& telas() override;
 
@@ -56,6 +57,7 @@ class Programa : public Contexto {
   std::unique_ptr<DBConectar> dbConectar_;
   std::unique_ptr<DBEmpresa> dbEmpresa_;
   std::unique_ptr<ConfiguracoesPrograma> configuracoes_;
+  std::unique_ptr<QuadroGeralContas> quadroGeralContas_;
   std::unique_ptr<TratadorExcessoes> tratadorExcessoes_;
   std::unique_ptr<Empresas> empresas_;
   std::unique_ptr<Permissoes> permissoes_;

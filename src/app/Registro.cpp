@@ -3,6 +3,7 @@
 #include "access/screens/frmCadastroUsuarios.h"
 #include "access/screens/frmLocalizarUsuarios.h"
 #include "access/screens/frmLogin.h"
+#include "overview/screens/frmMostrarContas.h"
 #include "registers/screens/TelasDosCadastros.h"
 #include "reports/screens/frmOpcoesRelList.h"
 #include "shell/screens/frmLocalizarBD.h"
@@ -48,6 +49,7 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmMDIPrincipal>("frmMDIPrincipal");
   telas.registrar<frmMensagem>("frmMensagem");
   telas.registrar<frmOpcoesRelList>("frmOpcoesRelList");
+  telas.registrar<frmMostrarContas>("frmMostrarContas");
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");

@@ -17,6 +17,7 @@ class Network;
 class Permissoes;
 class PrinterService;
 class Process;
+class QuadroGeralContas;
 class Telas;
 class TratadorExcessoes;
 class UiHost;
@@ -41,6 +42,7 @@ class Contexto {
   virtual Permissoes& permissoes() = 0;
   virtual TratadorExcessoes& tratadorExcessoes() = 0;
   virtual ConfiguracoesPrograma& configuracoes() = 0;
+  virtual QuadroGeralContas& quadroGeralContas() = 0;
   virtual JanelaPrincipal& janelaPrincipal() = 0;
   virtual Telas& telas() = 0;
 };
