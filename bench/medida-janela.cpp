@@ -25,6 +25,7 @@
 #include "platform/base/Error.h"
 #include "platform/os/System.h"
 #include "platform/ui/Screen.h"
+#include "platform/ui/qt/Probe.h"
 #include "platform/ui/qt/QtHost.h"
 #include "shell/screens/Lancador.h"
 #include "shell/services/Telas.h"
@@ -48,15 +49,14 @@ std::int64_t memoriaMaximaEmKB() {
   return 0;
 }
 
-/// Screens that open on a question or a message of their own find somebody who presses Enter, and who closes the
-/// accounts overview that comes up at the start.
+/// Screens that open on a question or a message of their own find somebody who presses Enter, and the overview that the
+/// firm wants at the start somebody who closes it.
 void responder(qt::QtHost& host) {
-  if (host.topWindow() == nullptr) return;
+  const bool bCaixa = host.openBox() != nullptr;
   const Screen* const tela = host.activeScreen();
-  const bool bQuadro = host.openBox() == nullptr && tela != nullptr && tela->sGetName() == "frmMostrarContas";
-  if (host.openBox() == nullptr && !bQuadro) return;
-  QKeyEvent aperto(QEvent::KeyPress, bQuadro ? Qt::Key_Escape : Qt::Key_Return, Qt::NoModifier,
-                   bQuadro ? QString() : QStringLiteral("\r"));
+  if (!bCaixa && (tela == nullptr || tela->sGetName() != "frmMostrarContas")) return;
+  if (!bCaixa) return qt::press(host, Qt::Key_Escape);
+  QKeyEvent aperto(QEvent::KeyPress, Qt::Key_Return, Qt::NoModifier, QStringLiteral("\r"));
   QApplication::sendEvent(host.topWindow(), &aperto);
 }
 

@@ -119,6 +119,29 @@ TEST(GerarEmpresa, MakesTheSameFileEveryTime) {
   EXPECT_TRUE(pasta.ler("a.MDB") == pasta.ler("b.MDB"));
 }
 
+TEST(GerarEmpresa, LeavesAsManyTitlesOverdueAsAskedForAndTheOthersPaidOnTheirDay) {
+  const PastaTemporaria pasta;
+  const std::string sTodos = pasta.arquivo("todos.MDB"), sAlguns = pasta.arquivo("alguns.MDB");
+  gerarEmpresa({sTodos, pastaDados, volume, hoje});
+  gerarEmpresa({sAlguns, pastaDados, volume, hoje, 1, 40});
+  Arquivo todos(sTodos), alguns(sAlguns);
+  const std::string sVencidos =
+      "SELECT COUNT(*) FROM TitulosReceber WHERE fValorPago <= 0 AND dtVencimento < '2026-03-15'";
+  EXPECT_GT(todos.inteiro(sVencidos), 40);
+  EXPECT_EQ(alguns.inteiro(sVencidos), 40);
+  EXPECT_GT(alguns.inteiro("SELECT COUNT(DISTINCT dtVencimento) FROM TitulosReceber WHERE fValorPago <= 0 AND "
+                           "dtVencimento < '2026-03-15'"),
+            20)
+      << "of days apart";
+  EXPECT_EQ(
+      alguns.inteiro("SELECT COUNT(*) FROM TitulosReceber WHERE fValorPago > 0 AND (dtPagamento <> dtVencimento "
+                     "OR fValorPago <> fValor)"),
+      todos.inteiro("SELECT COUNT(*) FROM TitulosReceber WHERE fValorPago > 0 AND (dtPagamento <> dtVencimento OR "
+                    "fValorPago <> fValor)"));
+  const std::string sEmDia = "SELECT COUNT(*) FROM TitulosReceber WHERE fValorPago > 0";
+  EXPECT_EQ(alguns.inteiro(sEmDia), todos.inteiro(sEmDia) + todos.inteiro(sVencidos) - 40);
+}
+
 TEST(GerarEmpresa, LeavesAFileThatIsThereAlone) {
   const PastaTemporaria pasta;
   pasta.gravar("a.MDB", "algo");
