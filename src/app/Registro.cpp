@@ -48,8 +48,8 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmLogin>("frmLogin");
   telas.registrar<frmMDIPrincipal>("frmMDIPrincipal");
   telas.registrar<frmMensagem>("frmMensagem");
-  telas.registrar<frmOpcoesRelList>("frmOpcoesRelList");
   telas.registrar<frmMostrarContas>("frmMostrarContas");
+  telas.registrar<frmOpcoesRelList>("frmOpcoesRelList");
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");

@@ -2,6 +2,9 @@
 // The small firm of Cenario on 10 May 2026 with titles on both sides, the accounts overview, and what a clerk does at
 // it.
 
+#include <gmock/gmock.h>
+#include <gtest/gtest.h>
+
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
 #include "overview/screens/frmMostrarContas.h"
