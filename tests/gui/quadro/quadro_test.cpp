@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <QtTest>
 #include <QtWidgets>
 
 #include "app/Registro.h"
@@ -10,6 +11,7 @@
 #include "overview/screens/frmMostrarContas.h"
 #include "overview/services/QuadroGeralContas.h"
 #include "platform/sql/Store.h"
+#include "platform/ui/Boxes.h"
 #include "platform/ui/qt/Probe.h"
 #include "platform/ui/qt/QtHost.h"
 #include "shell/services/Telas.h"
@@ -32,7 +34,8 @@ HostOptions opcoes() {
   return options;
 }
 
-/// The firm of Cenario on 10 May 2026, with receivables of that day and before it.
+/// The firm of Cenario on 10 May 2026, with receivables of that day and before
+/// it.
 class QuadroEmJanela : public testing::Test, protected AmbienteDeTeste {
  protected:
   QuadroEmJanela() {
@@ -129,14 +132,20 @@ TEST_F(QuadroEmJanela, NoKeyReachesATabThatIsOff) {
     tecla(iTecla, mudas);
     alcancadas.insert(abas(tela).currentIndex());
   };
+  const auto acesso = [&](Qt::Key letra) {
+    QTest::keyClick(windowOf(tela), letra, Qt::AltModifier);
+    host.throwKept();
+    alcancadas.insert(abas(tela).currentIndex());
+  };
   for (const int iTecla : {Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_PageUp, Qt::Key_PageDown})
     for (int i = 0; i < 9; ++i) bater(iTecla, Qt::ControlModifier);
   for (int i = 0; i < 9; ++i) bater(Qt::Key_Backtab, Qt::ControlModifier | Qt::ShiftModifier);
   for (int i = 0; i < 9; ++i) bater(Qt::Key_Tab);
   for (int i = 0; i < 9; ++i) bater(Qt::Key_Backtab);
   for (int i = 0; i < 9; ++i) bater(Qt::Key_Return);
-  for (int letra = Qt::Key_A; letra <= Qt::Key_Z; ++letra) bater(letra, Qt::AltModifier);
-  for (int algarismo = Qt::Key_0; algarismo <= Qt::Key_9; ++algarismo) bater(algarismo, Qt::AltModifier);
+  for (int letra = Qt::Key_A; letra <= Qt::Key_Z; ++letra)
+    if (letra != Qt::Key_I) acesso(static_cast<Qt::Key>(letra));  // that one prints
+  for (int algarismo = Qt::Key_0; algarismo <= Qt::Key_9; ++algarismo) acesso(static_cast<Qt::Key>(algarismo));
   // The strip takes the keyboard from a click on a tab.
   abas(tela).tabBar()->setFocus();
   for (const int iTecla : {Qt::Key_Left, Qt::Key_Right, Qt::Key_Home, Qt::Key_End})
@@ -195,6 +204,27 @@ TEST_F(QuadroEmJanela, ATitleIsSettledFromTheBoardByKeysAlone) {
   EXPECT_EQ(tela.lstReceberVencidas.selectedItem()->text(), "000001/002");
   tecla(Qt::Key_Escape);
   EXPECT_EQ(tela.state(), Screen::State::unloaded);
+}
+
+TEST_F(QuadroEmJanela, AltIPrintsTheListInFront) {
+  frmMostrarContas& tela = abrirTodas();
+  std::vector<std::string> titulos;
+  for (ListView* lista : {&tela.lstPagarDia, &tela.lstReceberDia, &tela.lstPagarVencidas, &tela.lstReceberVencidas}) {
+    lista->setFocus();
+    whenOpened(host, [&] {
+      Screen& opcoesDeImpressao = *host.activeScreen();
+      titulos.push_back(dynamic_cast<TextControl&>(*opcoesDeImpressao.control("txtTitulo")).text());
+      opcoesDeImpressao.unload();
+    });
+    const std::size_t antes = titulos.size();
+    QTest::keyClick(windowOf(tela), Qt::Key_I, Qt::AltModifier);
+    // An access key shows its button pressed for a moment before it acts.
+    while (titulos.size() == antes) QCoreApplication::processEvents(QEventLoop::WaitForMoreEvents);
+    host.throwKept();
+  }
+  EXPECT_THAT(titulos, ElementsAre("Contas a pagar de 10/05/2026", "Contas a receber de 10/05/2026",
+                                   "Contas a pagar vencidas em 10/05/2026", "Contas a receber vencidas em 10/05/2026"));
+  tela.unload();
 }
 
 TEST_F(QuadroEmJanela, TheMenuOpensByShiftF10TooAndMarksTheRowFirst) {
