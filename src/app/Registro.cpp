@@ -20,21 +20,13 @@
 #include "store/screens/frmLocalizarCidades.h"
 #include "store/screens/frmMensagem.h"
 #include "store/screens/frmSistema.h"
-#include "titles/screens/frmCadastroFaturasCliente.h"
-#include "titles/screens/frmCadastroFaturasFornecedor.h"
-#include "titles/screens/frmCadastroTitulosPagar.h"
-#include "titles/screens/frmCadastroTitulosReceber.h"
-#include "titles/screens/frmTransferenciaVendedores.h"
-#include "titles/screens/frmZerarTitulos.h"
+#include "titles/screens/TelasDosTitulos.h"
 
 namespace fenvale {
 
 void vRegistrarTelas(Telas& telas) {
-  telas.registrar<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
-  telas.registrar<frmCadastroFaturasFornecedor>("frmCadastroFaturasFornecedor");
-  telas.registrar<frmCadastroTitulosPagar>("frmCadastroTitulosPagar");
-  telas.registrar<frmCadastroTitulosReceber>("frmCadastroTitulosReceber");
   vRegistrarTelasDosCadastros(telas);
+  vRegistrarTelasDosTitulos(telas);
   telas.registrar<frmCadastroUsuarios>("frmCadastroUsuarios");
   telas.registrar<frmEmpresa>("frmEmpresa");
   telas.registrar<frmEmpresaAbrir>("frmEmpresaAbrir");
@@ -53,8 +45,6 @@ void vRegistrarTelas(Telas& telas) {
   telas.registrar<frmSistema>("frmSistema");
   telas.registrar<frmSobreApp>("frmSobreApp");
   telas.registrar<frmSplash>("frmSplash");
-  telas.registrar<frmTransferenciaVendedores>("frmTransferenciaVendedores");
-  telas.registrar<frmZerarTitulos>("frmZerarTitulos");
 }
 
 }  // namespace fenvale

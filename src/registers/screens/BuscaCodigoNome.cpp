@@ -18,8 +18,8 @@ BuscaCodigoNome::BuscaCodigoNome(Contexto& contexto, const DescricaoBuscaCodigoN
       txtCodigoInf(*this, "txtCodigoInf", d.lMaiorCodigo),
       txtNome(*this, d.sCaixaTexto, 50) {
   const std::string sVisiveis = d.bLinhaPadrao ? "AND " + d.sCampoTexto + " <> '' " : "";
-  vSetCriterios([this, sCampo = d.sCampoTexto, sVisiveis] { return sPrefixo(sCampo, txtNome) + sVisiveis; },
-                {igual(d.sCampoCodigo, txtCodigoInf)});
+  vSetCriterios({[this, sCampo = d.sCampoTexto, sVisiveis] { return sPrefixo(sCampo, txtNome) + sVisiveis; },
+                 igual(d.sCampoCodigo, txtCodigoInf)});
   vMontarTela({linha({campo("&Código", txtCodigoInf, 3), campo("&" + d.sRotulo, txtNome, cresce)})});
   setPreferredSize(16, 0);
 }

@@ -10,37 +10,44 @@
 
 namespace fenvale {
 
+std::string sClausula(const std::vector<Criterio>& criterios) {
+  std::string sTexto;
+  for (const Criterio& criterio : criterios)
+    if (const std::string sCondicao = criterio(); !sCondicao.empty())
+      sTexto += (sTexto.empty() ? "WHERE " : "AND ") + sCondicao;
+  return sTexto;
+}
+
 std::string sPrefixo(const std::string& sCampo, const TextControl& caixa) {
   return "MID(" + sCampo + ", 1, " + std::to_string(length(caixa.text())) + ") = '" +
          Validacoes::sGetStringSQL(caixa.text()) + "' ";
 }
 
 Criterio prefixo(std::string sCampo, const TextControl& caixa) {
-  return
-      [sCampo = std::move(sCampo), &caixa] { return caixa.empty() ? std::string() : "AND " + sPrefixo(sCampo, caixa); };
+  return [sCampo = std::move(sCampo), &caixa] { return caixa.empty() ? std::string() : sPrefixo(sCampo, caixa); };
 }
 
 Criterio igual(std::string sCampo, const TextControl& caixa) {
   return [sCampo = std::move(sCampo), &caixa] {
-    return caixa.empty() ? std::string() : "AND " + sCampo + " = " + caixa.text() + " ";
+    return caixa.empty() ? std::string() : sCampo + " = " + caixa.text() + " ";
   };
 }
 
 Criterio acimaDeZero(std::string sCampo, const NumberBox& caixa) {
   return [sCampo = std::move(sCampo), &caixa] {
-    return caixa.value() > 0 ? "AND " + sCampo + " = " + std::to_string(caixa.value()) + " " : std::string();
+    return caixa.value() > 0 ? sCampo + " = " + std::to_string(caixa.value()) + " " : std::string();
   };
 }
 
 Criterio chave(std::string sCampo, std::function<std::int32_t()> lChave) {
   return [sCampo = std::move(sCampo), lChave = std::move(lChave)] {
-    return lChave() == -1 ? std::string() : "AND " + sCampo + " = " + std::to_string(lChave()) + " ";
+    return lChave() == -1 ? std::string() : sCampo + " = " + std::to_string(lChave()) + " ";
   };
 }
 
 Criterio periodo(std::string sCampo, const CheckBox& chk, const DatePicker& dtInicial, const DatePicker& dtFinal) {
   return [sCampo = std::move(sCampo), &chk, &dtInicial, &dtFinal] {
-    return chk.checked() ? "AND " + sCampo + " BETWEEN #" + Validacoes::sGetDataSQL(dtInicial.value()) + "# AND #" +
+    return chk.checked() ? sCampo + " BETWEEN #" + Validacoes::sGetDataSQL(dtInicial.value()) + "# AND #" +
                                Validacoes::sGetDataSQL(dtFinal.value()) + "# "
                          : std::string();
   };
@@ -55,27 +62,16 @@ TelaBuscaCompleta::TelaBuscaCompleta(Contexto& contexto, std::string sNome, std:
   cmdFechar.onClick = [this] { unload(); };
 }
 
-void TelaBuscaCompleta::vSetCriterios(Criterio inicio, std::vector<Criterio> outros) {
-  inicio_ = std::move(inicio);
-  criterios_ = std::move(outros);
-}
-
 void TelaBuscaCompleta::vMontarTela(std::vector<LayoutNode> formulario) {
   std::vector<LayoutNode> nos = std::move(formulario);
   nos.push_back(botoes({&cmdLocalizar}, {&cmdFechar}));
   setLayout(std::move(nos));
 }
 
-std::string TelaBuscaCompleta::sClausula() const {
-  std::string sTexto = "WHERE " + inicio_();
-  for (const Criterio& criterio : criterios_) sTexto += criterio();
-  return sTexto;
-}
-
 void TelaBuscaCompleta::vLocalizar(Screen& chamador) {
   chamador_ = &chamador;
   ensureLoaded();
-  cmdLocalizar_Click();
+  vAoAbrir();
   vMostrarFormModal(*this);
 }
 

@@ -13,20 +13,23 @@
 
 namespace fenvale {
 
-/// One line of a clause ("AND btCodigoInf = 12 "); empty when its box asks for nothing.
+/// One condition of a clause ("btCodigoInf = 12 "); empty when its box asks for nothing.
 using Criterio = std::function<std::string()>;
+
+/// The conditions that ask for something as a clause: "WHERE " the first "AND " the next; empty when none does.
+std::string sClausula(const std::vector<Criterio>& criterios);
 
 /// "MID(<campo>, 1, <n>) = '<text>' " of a box: a match of the beginning, which an empty box always is.
 std::string sPrefixo(const std::string& sCampo, const TextControl& caixa);
-/// That as a line, when the box is not empty.
+/// That, when the box is not empty.
 Criterio prefixo(std::string sCampo, const TextControl& caixa);
-/// "AND <campo> = <text> " when the box is not empty.
+/// "<campo> = <text> " when the box is not empty.
 Criterio igual(std::string sCampo, const TextControl& caixa);
-/// "AND <campo> = <n> " when the number is above 0.
+/// "<campo> = <n> " when the number is above 0.
 Criterio acimaDeZero(std::string sCampo, const NumberBox& caixa);
-/// "AND <campo> = <n> " when a key was chosen.
+/// "<campo> = <n> " when a key was chosen.
 Criterio chave(std::string sCampo, std::function<std::int32_t()> lChave);
-/// "AND <campo> BETWEEN #<inicial># AND #<final># " when the check box is on.
+/// "<campo> BETWEEN #<inicial># AND #<final># " when the check box is on.
 Criterio periodo(std::string sCampo, const CheckBox& chk, const DatePicker& dtInicial, const DatePicker& dtFinal);
 
 class TelaBuscaCompleta : public Tela, public TelaBusca {
@@ -36,19 +39,19 @@ class TelaBuscaCompleta : public Tela, public TelaBusca {
 
   void vLocalizar(Screen& chamador) override;
   void cmdLocalizar_Click();
-  /// What the boxes ask for, beginning with "WHERE".
-  std::string sClausula() const;
+  /// What the boxes ask for.
+  std::string sClausula() const { return fenvale::sClausula(criterios_); }
 
  protected:
   TelaBuscaCompleta(Contexto& contexto, std::string sNome, std::string sLegenda);
 
-  /// `inicio` is the test that is always there, from "WHERE" on.
-  void vSetCriterios(Criterio inicio, std::vector<Criterio> outros);
+  void vSetCriterios(std::vector<Criterio> criterios) { criterios_ = std::move(criterios); }
   void vMontarTela(std::vector<LayoutNode> formulario);
   bool onKeyDown(Key tecla) override;
+  /// The search was asked for and is about to show: it searches once, its boxes being empty.
+  virtual void vAoAbrir() { cmdLocalizar_Click(); }
 
  private:
-  Criterio inicio_;
   std::vector<Criterio> criterios_;
   Screen* chamador_ = nullptr;
 };

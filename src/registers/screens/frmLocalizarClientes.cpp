@@ -10,8 +10,8 @@ frmLocalizarClientes::frmLocalizarClientes(Contexto& contexto)
     dtNascimentoInicial.setEnabled(chkNascimento.checked());
     dtNascimentoFinal.setEnabled(chkNascimento.checked());
   };
-  vSetCriterios([this] { return sPrefixo("Clientes.sNome", txtNome); },
-                {igual("lCodigoInf", txtCodigoInf),
+  vSetCriterios({[this] { return sPrefixo("Clientes.sNome", txtNome); },
+                 igual("lCodigoInf", txtCodigoInf),
                  prefixo("sEndereco", txtEndereco),
                  prefixo("sBairro", txtBairro),
                  prefixo("sCEP", txtCEP),

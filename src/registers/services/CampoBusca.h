@@ -43,6 +43,8 @@ class CampoBusca {
   /// The button that opens the register of the table, and the key Insert with it. Disabled when there is no such
   /// screen.
   void vSetCadastro(std::string sTela, const std::string& sRotulo, Button& botao);
+  /// Gets the focus after a search.
+  void vSetProximo(Control& proximo) { descricao_.proximo = &proximo; }
   /// Key and text of a picked row, the text into the main box.
   void vSet(std::int32_t lChave, const std::string& sTexto);
   /// Key to -1, boxes empty.

@@ -1,11 +1,13 @@
 #pragma once
 // The interfaces by which one screen reaches another of any folder: a list to be refilled, and the receivers of what a
-// quick search picked.
+// search picked.
 
 #include <cstdint>
 #include <string>
 
 namespace fenvale {
+
+class ListItem;
 
 /// A screen with a paged list, which search screens and menus drive.
 class TelaComLista {
@@ -61,12 +63,26 @@ class ReceptorCondicaoPagamento {
                                      std::int32_t iIntervalo, std::int32_t bitEntrada) = 0;
 };
 
+/// The title screens, as the searches for settlement hand them a title: from a row with their own columns, the key
+/// included.
+class ReceptorTituloReceber {
+ public:
+  virtual ~ReceptorTituloReceber() = default;
+  virtual void vSetTituloReceberBaixa(const ListItem& item) = 0;
+};
+
+class ReceptorTituloPagar {
+ public:
+  virtual ~ReceptorTituloPagar() = default;
+  virtual void vSetTituloPagarBaixa(const ListItem& item) = 0;
+};
+
 /// A quick search or full search, opened for the screen that is to be driven or called back.
 class TelaBusca {
  public:
   virtual ~TelaBusca() = default;
-  /// Searches once with empty boxes and shows itself modally. `chamador` is reached only by the interface that this
-  /// search needs; one without it gets a failure through the reporter.
+  /// Shows itself modally; all but the filters of invoices and titles search once before, with empty boxes. `chamador`
+  /// is reached only by the interface that this search needs; one without it gets a failure through the reporter.
   virtual void vLocalizar(class Screen& chamador) = 0;
 };
 

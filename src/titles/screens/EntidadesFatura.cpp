@@ -2,6 +2,7 @@
 
 #include "platform/base/Text.h"
 #include "store/services/Sistema.h"
+#include "titles/screens/ColunasTitulos.h"
 #include "titles/services/Lado.h"
 
 namespace fenvale {
@@ -45,16 +46,21 @@ CampoEntidade::Descricao centroCustoDaFatura() {
           ""};
 }
 
+CampoEntidade::Descricao paraUso(CampoEntidade::Descricao descricao, EntidadesFatura::Uso uso) {
+  if (uso == EntidadesFatura::Uso::filtro) descricao.sNovo.clear();
+  return descricao;
+}
+
 }  // namespace
 
 CampoEntidade::CampoEntidade(Screen& tela, Contexto& contexto, Descricao descricao, Control* proximo)
     : descricao_(std::move(descricao)),
       caixa(tela, descricao_.sCaixa),
-      cmdNovo(tela, descricao_.sNovo, "", "mais"),
+      cmdNovo(descricao_.sNovo.empty() ? nullptr : std::make_unique<Button>(tela, descricao_.sNovo, "", "mais")),
       busca(tela, contexto, {&caixa},
             {descricao_.sBusca, proximo, "cmdBusca" + descricao_.sCaixa.substr(3),
              "Localizar " + toLower(descricao_.sRotulo)}) {
-  busca.vSetCadastro(descricao_.sCadastro, "Cadastrar " + toLower(descricao_.sRotulo), cmdNovo);
+  if (cmdNovo) busca.vSetCadastro(descricao_.sCadastro, "Cadastrar " + toLower(descricao_.sRotulo), *cmdNovo);
 }
 
 LayoutNode CampoEntidade::campo(int largura) {
@@ -62,14 +68,14 @@ LayoutNode CampoEntidade::campo(int largura) {
   return busca.campoPrincipal(sRotulo.insert(sRotulo.find(descricao_.sAcesso), "&"), largura);
 }
 
-EntidadesFatura::EntidadesFatura(Screen& tela, Contexto& contexto, const Lado& lado, const std::string& sInformePessoa,
-                                 Control* depoisDaPessoa)
-    : centroCusto(tela, contexto, centroCustoDaFatura(), nullptr),
-      vendedor(lado.bVendedor ? std::make_unique<CampoEntidade>(tela, contexto, vendedorDaFatura(), &centroCusto.caixa)
+EntidadesFatura::EntidadesFatura(Screen& tela, Contexto& contexto, const Lado& lado, Uso uso,
+                                 const std::string& sInformePessoa)
+    : centroCusto(tela, contexto, paraUso(centroCustoDaFatura(), uso), nullptr),
+      vendedor(lado.bVendedor ? std::make_unique<CampoEntidade>(tela, contexto, paraUso(vendedorDaFatura(), uso),
+                                                                &centroCusto.caixa)
                               : nullptr),
-      portador(tela, contexto, portadorDaFatura(), vendedor ? &vendedor->caixa : &centroCusto.caixa),
-      pessoa(tela, contexto, pessoaDoLado(lado, sInformePessoa),
-             depoisDaPessoa != nullptr ? depoisDaPessoa : &portador.caixa),
+      portador(tela, contexto, paraUso(portadorDaFatura(), uso), vendedor ? &vendedor->caixa : &centroCusto.caixa),
+      pessoa(tela, contexto, paraUso(pessoaDoLado(lado, sInformePessoa), uso), &portador.caixa),
       contexto_(contexto) {}
 
 std::vector<CampoBusca*> EntidadesFatura::buscas() {
@@ -100,29 +106,20 @@ ValoresSQL EntidadesFatura::valores(std::optional<std::int32_t> lCondicoesPagame
   return todos;
 }
 
-std::vector<ColunaLista> EntidadesFatura::colunas(CampoEntidade& entidade, const std::string& sNomeNaFrase,
-                                                  const std::string& sCampoNome, float fLargura) {
-  return {{"Código interno do " + sNomeNaFrase, 0, Align::left, entidade.descricao().sColuna, entidade.busca.lCodigo},
-          {entidade.descricao().sRotulo, fLargura, Align::left, sCampoNome, entidade.caixa}};
+void EntidadesFatura::vLigarColunas(std::vector<ColunaLista>& colunas) {
+  const auto ligar = [&colunas](CampoEntidade& entidade, const std::string& sCampoNome) {
+    vLigar(colunas, entidade.descricao().sColuna, entidade.busca.lCodigo);
+    vLigar(colunas, sCampoNome, entidade.caixa);
+  };
+  ligar(pessoa, pessoa.descricao().sRotulo);
+  ligar(portador, "Portador");
+  if (vendedor) ligar(*vendedor, "Vendedores");
+  ligar(centroCusto, "CentroCusto");
 }
 
-std::vector<ColunaLista> EntidadesFatura::colunasPessoa(const Lado& lado) {
-  return colunas(pessoa, lado.sPessoaMinuscula, lado.sPessoa, 3000);
-}
-
-std::vector<ColunaLista> EntidadesFatura::colunasPortador() { return colunas(portador, "portador", "Portador", 1800); }
-
-std::vector<ColunaLista> EntidadesFatura::colunasVendedor() {
-  if (!vendedor) return {};
-  return colunas(*vendedor, "vendedor", "Vendedores", 1900);
-}
-
-std::vector<ColunaLista> EntidadesFatura::colunasCentroCusto() {
-  return colunas(centroCusto, "centro de custo", "CentroCusto", 2200);
-}
-
-void vAcrescentar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras) {
-  for (ColunaLista& coluna : outras) colunas.push_back(std::move(coluna));
+std::vector<LayoutNode> EntidadesFatura::linhas() {
+  if (!vendedor) return {linha({pessoa.campo(cresce), portador.campo(8), centroCusto.campo(8)})};
+  return {linha({pessoa.campo(cresce), portador.campo(10)}), linha({vendedor->campo(14), centroCusto.campo(cresce)})};
 }
 
 std::vector<std::int32_t> EntidadesFatura::chaves() const {

@@ -1,6 +1,6 @@
 #pragma once
 // Who and what an invoice belongs to: customer or supplier, bearer, salesperson where the side has one, cost centre.
-// Four lookup fields that the invoice screen and the title screen share.
+// Four lookup fields that the screens of invoices and titles share, and their searches.
 
 #include <memory>
 #include <optional>
@@ -16,14 +16,14 @@ namespace fenvale {
 
 struct Lado;
 
-/// A lookup box with its two buttons.
+/// A lookup box with the buttons of its searches and, where new rows may be added, of its register.
 class CampoEntidade {
  public:
   struct Descricao {
     std::string sCaixa;     ///< "txtPortador"
     std::string sRotulo;    ///< "Portador"
     std::string sAcesso;    ///< the letter of its access key, in the label
-    std::string sNovo;      ///< "cmdNovoPortador"
+    std::string sNovo;      ///< "cmdNovoPortador"; empty: without the register
     std::string sCadastro;  ///< "frmCadastroPortadores"
     std::string sBusca;     ///< "frmLocalizarPortadoresRapido"
     std::string sColuna;    ///< "lPortador"
@@ -37,7 +37,7 @@ class CampoEntidade {
 
  public:
   LookupBox caixa;
-  Button cmdNovo;
+  const std::unique_ptr<Button> cmdNovo;
   CampoBusca busca;
 
   const Descricao& descricao() const { return descricao_; }
@@ -46,9 +46,8 @@ class CampoEntidade {
 
 class EntidadesFatura {
  public:
-  /// `depoisDaPessoa` follows customer or supplier on the screen; without it the bearer does.
-  EntidadesFatura(Screen& tela, Contexto& contexto, const Lado& lado, const std::string& sInformePessoa,
-                  Control* depoisDaPessoa = nullptr);
+  enum class Uso { cadastro, filtro };  ///< a filter has no buttons of the registers
+  EntidadesFatura(Screen& tela, Contexto& contexto, const Lado& lado, Uso uso, const std::string& sInformePessoa = {});
 
   // Made from the last to the first: each names the one that follows it on the screen.
   CampoEntidade centroCusto;
@@ -63,24 +62,17 @@ class EntidadesFatura {
 
   /// The columns of an invoice that name them; with a condition's key behind the person's, where one is written.
   ValoresSQL valores(std::optional<std::int32_t> lCondicoesPagamento = std::nullopt) const;
-  // Of each a hidden column with the key and a column with the name.
-  std::vector<ColunaLista> colunasPessoa(const Lado& lado);
-  std::vector<ColunaLista> colunasPortador();
-  std::vector<ColunaLista> colunasVendedor();
-  std::vector<ColunaLista> colunasCentroCusto();
+  /// The columns of a list with their keys and names fill them.
+  void vLigarColunas(std::vector<ColunaLista>& colunas);
+  /// The fields in rows of their own.
+  std::vector<LayoutNode> linhas();
 
   /// The keys, in the order of buscas(), to be given back after a save that failed.
   std::vector<std::int32_t> chaves() const;
   void vRestaurarChaves(const std::vector<std::int32_t>& chaves);
 
  private:
-  static std::vector<ColunaLista> colunas(CampoEntidade& entidade, const std::string& sNomeNaFrase,
-                                          const std::string& sCampoNome, float fLargura);
-
   Contexto& contexto_;
 };
-
-/// Columns are listed in the order in which they stand, group after group.
-void vAcrescentar(std::vector<ColunaLista>& colunas, std::vector<ColunaLista> outras);
 
 }  // namespace fenvale

@@ -7,6 +7,7 @@
 #include "shell/services/Contexto.h"
 #include "shell/services/Telas.h"
 #include "store/services/Sistema.h"
+#include "titles/screens/ColunasTitulos.h"
 #include "titles/services/Lado.h"
 
 namespace fenvale {
@@ -18,18 +19,17 @@ std::string sReais(Currency fValor) { return "R$ " + formatNumber(fValor); }
 
 TelaFaturas::TelaFaturas(Contexto& contexto, const Lado& lado)
     : TelaCadastro(contexto, lado.faturas.sNome),
-      entidades(*this, contexto, lado, lado.sInformePessoaFatura, &txtCondPagCodigoInf),
-      condicao(*this, contexto, {&txtCondPagCodigoInf, &txtNumeroParcelas, &txtIntervalo, &chkEntrada},
-               {"frmLocalizarCondicoesPagamentoRapido", &entidades.portador.caixa, "cmdBuscaCondicaoPagamento",
-                "Localizar condição de pagamento"}),
+      entidades(*this, contexto, lado, EntidadesFatura::Uso::cadastro, lado.sInformePessoaFatura),
+      condicao(*this, contexto, entidades.portador.caixa),
       lado_(lado),
       titulos_(contexto),
       gerador_(contexto, lado) {
-  condicao.vSetCadastro("frmCadastroCondicoesPagamento", "Cadastrar condição de pagamento", cmdNovaCondicaoPagamento);
-  chkEntrada.setLocked(true);
+  entidades.pessoa.busca.vSetProximo(txtCondPagCodigoInf);
+  condicao.busca.vSetCadastro("frmCadastroCondicoesPagamento", "Cadastrar condição de pagamento",
+                              cmdNovaCondicaoPagamento);
 
   std::vector<CampoBusca*> buscas = entidades.buscas();
-  buscas.push_back(&condicao);
+  buscas.push_back(&condicao.busca);
   vDescrever({
       .sLegenda = lado.faturas.sLegenda,
       .sTitulo = lado.faturas.sTitulo,
@@ -52,16 +52,17 @@ std::vector<ColunaLista> TelaFaturas::colunasDaLista() {
                                    {"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
                                    {"Total da fatura", 1600, Align::right, "TotalFatura", txtTotal},
                                    {"Entrada", 1400, Align::right, "TotalEntrada", txtEntrada}};
-  vAcrescentar(colunas, entidades.colunasPessoa(lado_));
-  vAcrescentar(colunas,
-               {{"Código interno da condição de pagamento", 0, Align::left, "lCondicoesPagamento", condicao.lCodigo},
-                {"Código Cond. Pag.", 1950, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
-                {"Nº de parcelas", 1650, Align::right, "iNumeroParcelas", txtNumeroParcelas},
-                {"Intervalo de venc.", 1950, Align::right, "iIntervalo", txtIntervalo},
-                {"Com entrada", 1560, Align::centre, "ComEntrada", chkEntrada}});
-  vAcrescentar(colunas, entidades.colunasPortador());
-  vAcrescentar(colunas, entidades.colunasVendedor());
-  vAcrescentar(colunas, entidades.colunasCentroCusto());
+  vAcrescentar(colunas, colunasPessoa(lado_));
+  vAcrescentar(colunas, {{"Código interno da condição de pagamento", 0, Align::left, "lCondicoesPagamento",
+                          condicao.busca.lCodigo},
+                         {"Código Cond. Pag.", 1950, Align::right, "CondPagCodigoInf", txtCondPagCodigoInf},
+                         {"Nº de parcelas", 1650, Align::right, "iNumeroParcelas", txtNumeroParcelas},
+                         {"Intervalo de venc.", 1950, Align::right, "iIntervalo", txtIntervalo},
+                         {"Com entrada", 1560, Align::centre, "ComEntrada", chkEntrada}});
+  vAcrescentar(colunas, colunasPortador());
+  vAcrescentar(colunas, colunasVendedor(lado_));
+  vAcrescentar(colunas, colunasCentroCusto());
+  entidades.vLigarColunas(colunas);
   return colunas;
 }
 
@@ -72,19 +73,13 @@ void TelaFaturas::vMontarFormulario() {
   vMontarTela({linha({campo("Nº da &fatura", txtNumeroFatura, 4), campo("&Emissão", dtEmissao, 4),
                       campo("&Total da fatura", txtTotal, 4), campo("Entr&ada", txtEntrada, 4),
                       entidades.pessoa.campo(cresce)}),
-               quadro("Condição de pagamento",
-                      {linha({condicao.campoPrincipal("&Código", 6), campo("Nº de pa&rcelas", txtNumeroParcelas, 5),
-                              campo("&Intervalo de venc.", txtIntervalo, 5), solto(chkEntrada)})}),
-               linha(std::move(ultima))});
+               condicao.grupo(), linha(std::move(ultima))});
   setPreferredSize(24, 36);
 }
 
 void TelaFaturas::vSetCondicaoPagamento(std::int32_t lChave, std::int32_t btCodigoInf, std::int32_t iNumeroParcelas,
                                         std::int32_t iIntervalo, std::int32_t bitEntrada) {
-  condicao.vSet(lChave, std::to_string(btCodigoInf));
-  txtNumeroParcelas.setText(std::to_string(iNumeroParcelas));
-  txtIntervalo.setText(std::to_string(iIntervalo));
-  chkEntrada.setChecked(-bitEntrada == 1);
+  condicao.vSet(lChave, btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada);
 }
 
 void TelaFaturas::vSetPortador(std::int32_t lChave, const std::string& sNome) {
@@ -117,7 +112,7 @@ bool TelaFaturas::bTestarPreenchimento() {
         txtTotal);
   if (entidades.pessoa.busca.lCodigo == -1)
     return recusar(entidades.pessoa.descricao().sInforme, entidades.pessoa.caixa);
-  if (condicao.lCodigo == -1) return recusar("Informe a condição de pagamento.", txtCondPagCodigoInf);
+  if (condicao.busca.lCodigo == -1) return recusar("Informe a condição de pagamento.", txtCondPagCodigoInf);
   if (!bTestarEntrada()) return false;
   for (CampoEntidade* entidade : entidades.obrigatoriasDepoisDaPessoa())
     if (entidade->busca.lCodigo == -1) return recusar(entidade->descricao().sInforme, entidade->caixa);
@@ -164,7 +159,8 @@ void TelaFaturas::vDesfazer() {
 }
 
 bool TelaFaturas::bTestarTrocaDeCondicao() {
-  if (lCodigo <= 0 || titulos_.bVerificarCondicaoPagamento(condicao.lCodigo, lado_.sFaturas, lCodigo)) return true;
+  if (lCodigo <= 0 || titulos_.bVerificarCondicaoPagamento(condicao.busca.lCodigo, lado_.sFaturas, lCodigo))
+    return true;
   const std::string sQuebra(lineBreak);
   if (!perguntar("A condição de pagamento informada é diferente da que a fatura apresenta." + sQuebra +
                  "Alterar a condição de pagamento fará com que todos os títulos desta fatura sejam excluídos" +
@@ -180,7 +176,7 @@ void TelaFaturas::vGravarFatura() {
   ValoresSQL valores{{"lNumeroFatura", Ligacao(txtNumeroFatura).sLiteral()},
                      {"fTotal", Ligacao(txtTotal).sLiteral()},
                      {"fEntrada", Ligacao(txtEntrada).sLiteral()}};
-  for (auto& valor : entidades.valores(condicao.lCodigo)) valores.push_back(std::move(valor));
+  for (auto& valor : entidades.valores(condicao.busca.lCodigo)) valores.push_back(std::move(valor));
   const bool bAlterar = lCodigo >= 0;
   valores.insert(bAlterar ? valores.begin() + 1 : valores.end(), emissao);
   vExecutar(bAlterar ? sComandoAlteracao(lado_.sFaturas, valores, lCodigo) : sComandoInclusao(lado_.sFaturas, valores));

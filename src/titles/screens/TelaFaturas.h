@@ -7,6 +7,7 @@
 #include <vector>
 
 #include "registers/screens/TelaCadastro.h"
+#include "titles/screens/CampoCondicao.h"
 #include "titles/screens/EntidadesFatura.h"
 #include "titles/screens/Transacao.h"
 #include "titles/services/GeradorTitulos.h"
@@ -25,14 +26,14 @@ class TelaFaturas : public TelaCadastro,
   DatePicker dtEmissao{*this, "dtEmissao"};
   MoneyBox txtTotal{*this, "txtTotal"};
   MoneyBox txtEntrada{*this, "txtEntrada"};
-  LookupBox txtCondPagCodigoInf{*this, "txtCondPagCodigoInf"};
-  LookupBox txtNumeroParcelas{*this, "txtNumeroParcelas"};
-  LookupBox txtIntervalo{*this, "txtIntervalo"};
-  CheckBox chkEntrada{*this, "chkEntrada", "C&om entrada"};
   Button cmdNovaCondicaoPagamento{*this, "cmdNovaCondicaoPagamento", "", "mais"};
 
   EntidadesFatura entidades;
-  CampoBusca condicao;
+  CampoCondicao condicao;
+  LookupBox& txtCondPagCodigoInf{condicao.txtCondPagCodigoInf};
+  LookupBox& txtNumeroParcelas{condicao.txtNumeroParcelas};
+  LookupBox& txtIntervalo{condicao.txtIntervalo};
+  CheckBox& chkEntrada{condicao.chkEntrada};
 
   void vSetCondicaoPagamento(std::int32_t lChave, std::int32_t btCodigoInf, std::int32_t iNumeroParcelas,
                              std::int32_t iIntervalo, std::int32_t bitEntrada) override;

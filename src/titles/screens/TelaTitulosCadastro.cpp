@@ -8,6 +8,7 @@
 #include "shell/services/Telas.h"
 #include "shell/services/Validacoes.h"
 #include "store/services/Sistema.h"
+#include "titles/screens/ColunasTitulos.h"
 #include "titles/services/Juros.h"
 #include "titles/services/Lado.h"
 
@@ -24,7 +25,7 @@ TelaTitulosCadastro::TelaTitulosCadastro(Contexto& contexto, const Lado& lado)
       txtFilial(lado.bFilial ? std::make_unique<TextBox>(*this, "txtFilial", 3) : nullptr),
       cmdCalcularJuros(lado.bJuros ? std::make_unique<Button>(*this, "cmdCalcularJuros", "Calcular &juros", "calcular")
                                    : nullptr),
-      entidades(*this, contexto, lado, lado.sInformePessoaTitulo),
+      entidades(*this, contexto, lado, EntidadesFatura::Uso::cadastro, lado.sInformePessoaTitulo),
       lado_(lado),
       titulos_(contexto),
       gerador_(contexto, lado) {
@@ -46,29 +47,32 @@ TelaTitulosCadastro::TelaTitulosCadastro(Contexto& contexto, const Lado& lado)
 }
 
 std::vector<ColunaLista> TelaTitulosCadastro::colunasDaLista() {
-  std::vector<ColunaLista> colunas{{"Código", 1700, Align::left, "sCodigoInf", txtCodigoInf}};
-  if (txtFilial) colunas.push_back({"Filial", 800, Align::left, "sFilial", *txtFilial});
-  vAcrescentar(colunas, {{"Emissão", 1560, Align::centre, "Emissao", dtEmissao},
-                         {"Vencimento", 1560, Align::centre, "Vencimento", dtVencimento},
-                         {"Pago", 800, Align::centre, "Pago"}});
-  vAcrescentar(colunas, entidades.colunasPessoa(lado_));
-  vAcrescentar(colunas, entidades.colunasPortador());
-  vAcrescentar(colunas, entidades.colunasVendedor());
-  vAcrescentar(colunas, {{"Valor da fatura", 1750, Align::right, "ValorFatura", txtTotal},
-                         {"Valor do título", 1750, Align::right, "ValorTitulo", txtValor}});
-  vAcrescentar(colunas, entidades.colunasCentroCusto());
-  vAcrescentar(colunas, {{"Pagamento", 1560, Align::centre, "Pagamento"},
-                         {"Valor pago", 1500, Align::right, "ValorPago", txtValorPago},
-                         {"Juros cobrado", 1650, Align::right, "Juros", txtJuros},
-                         {"Desconto", 1400, Align::right, "Desconto", txtDesconto},
-                         {"Nota fiscal", 1400, Align::right, "lNF", txtNF},
-                         {"Observação", 3600, Align::left, "sObs", txtObs}});
+  std::vector<ColunaLista> colunas = colunasTitulos(lado_);
+  entidades.vLigarColunas(colunas);
+  if (txtFilial) vLigar(colunas, "sFilial", *txtFilial);
+  vLigar(colunas, "sCodigoInf", txtCodigoInf);
+  vLigar(colunas, "Emissao", dtEmissao);
+  vLigar(colunas, "Vencimento", dtVencimento);
+  vLigar(colunas, "ValorFatura", txtTotal);
+  vLigar(colunas, "ValorTitulo", txtValor);
+  vLigar(colunas, "ValorPago", txtValorPago);
+  vLigar(colunas, "Juros", txtJuros);
+  vLigar(colunas, "Desconto", txtDesconto);
+  vLigar(colunas, "lNF", txtNF);
+  vLigar(colunas, "sObs", txtObs);
   return colunas;
 }
 
 void TelaTitulosCadastro::vMontarFormulario() {
+  std::vector<LayoutNode> primeira{campo("&Emissão", dtEmissao, 4), entidades.pessoa.campo(cresce)};
   std::vector<LayoutNode> segunda;
-  if (entidades.vendedor) segunda.push_back(entidades.vendedor->campo(12));
+  if (entidades.vendedor) {
+    primeira.push_back(entidades.portador.campo(7));
+    segunda.push_back(entidades.vendedor->campo(12));
+  } else {
+    segunda.push_back(entidades.portador.campo(12));
+  }
+  primeira.push_back(campo("Valor da fatu&ra", txtTotal, 4));
   segunda.push_back(entidades.centroCusto.campo(cresce));
 
   std::vector<LayoutNode> titulo{campo("&Código", txtCodigoInf, 4)};
@@ -82,9 +86,7 @@ void TelaTitulosCadastro::vMontarFormulario() {
                                     campo("&Desconto", txtDesconto, 4), campo("Valor p&ago", txtValorPago, 4)};
   if (cmdCalcularJuros) pagamento.push_back(solto(*cmdCalcularJuros));
 
-  vMontarTela({quadro("Fatura", {linha({campo("&Emissão", dtEmissao, 4), entidades.pessoa.campo(cresce),
-                                        entidades.portador.campo(7), campo("Valor da fatu&ra", txtTotal, 4)}),
-                                 linha(std::move(segunda))}),
+  vMontarTela({quadro("Fatura", {linha(std::move(primeira)), linha(std::move(segunda))}),
                quadro("Título", {linha(std::move(titulo)), linha(std::move(pagamento))})},
               {&cmdLocalizarBaixa}, {solto(chkManterFatura)});
   setPreferredSize(26, 40);

@@ -5,7 +5,9 @@
 
 namespace fenvale {
 
-class frmCadastroTitulosPagar final : public TelaTitulosCadastro, public ReceptorFornecedor {
+class frmCadastroTitulosPagar final : public TelaTitulosCadastro,
+                                      public ReceptorTituloPagar,
+                                      public ReceptorFornecedor {
  public:
   explicit frmCadastroTitulosPagar(Contexto& contexto);
 
@@ -14,8 +16,7 @@ class frmCadastroTitulosPagar final : public TelaTitulosCadastro, public Recepto
   LookupBox& txtCentroCusto{entidades.centroCusto.caixa};
 
   void vSetFornecedor(std::int32_t lChave, const std::string& sNome) override;
-  /// Loads a title from a row of this screen's list or of a search.
-  void vSetTituloPagarBaixa(const ListItem& item) { vSetTituloBaixa(item); }
+  void vSetTituloPagarBaixa(const ListItem& item) override { vSetTituloBaixa(item); }
 };
 
 }  // namespace fenvale

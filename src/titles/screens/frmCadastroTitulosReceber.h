@@ -5,7 +5,10 @@
 
 namespace fenvale {
 
-class frmCadastroTitulosReceber final : public TelaTitulosCadastro, public ReceptorCliente, public ReceptorVendedor {
+class frmCadastroTitulosReceber final : public TelaTitulosCadastro,
+                                        public ReceptorTituloReceber,
+                                        public ReceptorCliente,
+                                        public ReceptorVendedor {
  public:
   explicit frmCadastroTitulosReceber(Contexto& contexto);
 
@@ -16,8 +19,7 @@ class frmCadastroTitulosReceber final : public TelaTitulosCadastro, public Recep
 
   void vSetCliente(std::int32_t lChave, const std::string& sNome) override;
   void vSetVendedor(std::int32_t lChave, const std::string& sNome) override;
-  /// Loads a title from a row of this screen's list or of a search.
-  void vSetTituloReceberBaixa(const ListItem& item) { vSetTituloBaixa(item); }
+  void vSetTituloReceberBaixa(const ListItem& item) override { vSetTituloBaixa(item); }
 };
 
 }  // namespace fenvale

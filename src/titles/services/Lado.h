@@ -9,12 +9,14 @@ namespace fenvale {
 
 /// The words and neighbours of one of a side's two screens.
 struct TelaDoLado {
-  std::string sNome;        ///< "frmCadastroTitulosReceber"
-  std::string sLegenda;     ///< window caption
-  std::string sTitulo;      ///< the line in the band, and the title of the printed list
-  std::string sBusca;       ///< search behind F6
-  std::string sBuscaBaixa;  ///< search for settlement behind F7; the invoice screens have none
-  std::string sSelecao;     ///< the list's statement up to where a clause begins
+  std::string sNome;          ///< "frmCadastroTitulosReceber"
+  std::string sLegenda;       ///< window caption
+  std::string sTitulo;        ///< the line in the band, and the title of the printed list
+  std::string sBusca;         ///< search behind F6
+  std::string sBuscaBaixa;    ///< search for settlement behind F7; the invoice screens have none
+  std::string sLegendaBusca;  ///< caption of both searches
+  std::string sSelecao;       ///< the list's statement up to where a clause begins
+  std::string sSelecaoBaixa;  ///< that of the search for settlement, which adds the invoice's number
 };
 
 class Titulos;
@@ -39,6 +41,7 @@ struct Lado {
   std::string sInformePessoaFatura;  ///< what the invoice screen says when none was chosen
   std::string sInformePessoaTitulo;  ///< what the title screen says
   std::string sOndeMudarTotal;       ///< where the total of an invoice can be changed
+  std::string sFiltroCentroCusto;    ///< the column by which the searches ask for a cost centre
   std::string sCadastroPessoa;       ///< register screen
   std::string sBuscaPessoa;          ///< quick search
 

@@ -112,6 +112,51 @@ TEST_P(TitulosEmJanelas, AnInvoiceIsTypedAndItsFirstTitleSettledByKeysAlone) {
   fatura.unload();
 }
 
+TEST_P(TitulosEmJanelas, ATitleIsFoundForSettlementAndPaidByKeysAlone) {
+  const std::string vendedor = lado.bVendedor ? "lVendedor, " : "";
+  executar("INSERT INTO " + lado.sFaturas + " (lNumeroFatura, dtEmissao, fTotal, fEntrada, " + lado.sChavePessoa +
+           ", lCondicoesPagamento, lPortador, " + vendedor +
+           "lCentroCusto) VALUES (55, #03/01/2026#, 300, 0, 2, 1, 1, " + (lado.bVendedor ? "1, " : "") + "1)");
+  for (const char* numero : {"1", "2", "3"})
+    executar("INSERT INTO " + lado.sTitulos +
+             " (sCodigoInf, dtVencimento, fValor, dtPagamento, fValorPago, fJuros, fDesconto, lNF, sObs, " +
+             lado.sLigacao + ") VALUES ('000001/00" + numero +
+             "', #03/31/2026#, 100, #03/31/2026#, 0, 0, 0, 0, '', 1)");
+
+  auto& titulos = dynamic_cast<TelaTitulosCadastro&>(abrir(lado.titulos.sNome));
+  aoSurgir(lado.titulos.sBuscaBaixa, [&] {
+    Screen& busca = *host.activeScreen();
+    ASSERT_TRUE(busca.control("txtNumeroFatura")->hasFocus());
+    type(host, "55");
+    irPara(*busca.control("lstLista"));
+    press(host, Qt::Key_Down);
+    press(host, Qt::Key_Space);
+    EXPECT_EQ(busca.state(), Screen::State::loaded);
+    press(host, Qt::Key_Space);
+  });
+  tecla(Qt::Key_F7);
+  ASSERT_EQ(titulos.txtCodigoInf.text(), "000001/002");
+  EXPECT_EQ(formatDate(titulos.dtPagamento.value()), "31/03/2026");
+  press(host, Qt::Key_A, Qt::AltModifier);  // Valor p_a_go
+  escrever("100,00");
+  responderA("Confirma o pagamento do título?");
+  responderA("Operação concluída.");
+  tecla(Qt::Key_F3);
+  EXPECT_EQ(valor("SELECT fValorPago FROM " + lado.sTitulos + " WHERE lCodigo = 2"), "100");
+
+  aoSurgir(lado.titulos.sBusca, [&] {
+    Screen& busca = *host.activeScreen();
+    irPara(*busca.control("chkPago"));
+    press(host, Qt::Key_Space);
+    press(host, Qt::Key_F6);
+    EXPECT_EQ(titulos.lstLista.items().size(), 1u) << "paid titles, behind the search that stays";
+    press(host, Qt::Key_Escape);
+  });
+  tecla(Qt::Key_F6);
+  EXPECT_EQ(titulos.lstLista.item(0)->text(), "000001/002");
+  titulos.unload();
+}
+
 INSTANTIATE_TEST_SUITE_P(Lados, TitulosEmJanelas, testing::Values(&ladoReceber, &ladoPagar),
                          [](const auto& caso) { return caso.param().sTitulos; });
 

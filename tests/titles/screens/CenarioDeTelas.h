@@ -7,6 +7,7 @@
 #include "platform/base/Error.h"
 #include "registers/screens/TelasDosCadastros.h"
 #include "shell/services/Telas.h"
+#include "shell/services/TelasDeApoio.h"
 #include "titles/Cenario.h"
 #include "titles/screens/frmCadastroFaturasCliente.h"
 #include "titles/screens/frmCadastroFaturasFornecedor.h"
@@ -19,6 +20,7 @@ using testing::ElementsAre;
 using testing::IsEmpty;
 using testing::SizeIs;
 
+/// The registers of invoices and titles, without their searches.
 inline void vRegistrarTelasDeTitulos(Telas& telas) {
   vRegistrarTelasDosCadastros(telas);
   telas.registrar<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
@@ -31,8 +33,20 @@ inline const MessageBox concluida = informacao("Operação concluída.");
 inline const MessageBox cancelada = aviso("Operação cancelada.");
 inline const MessageBox visualizarTitulos = pergunta("Deseja visualizar os títulos relacionados à essa fatura?");
 
+/// The options of list printing, which remember what they were given.
+class OpcoesDeTeste final : public Tela, public OpcoesRelatorioLista {
+ public:
+  explicit OpcoesDeTeste(Contexto& contexto) : Tela(contexto, "frmOpcoesRelList") {}
+  void vCarregar(const std::string& sTitulo, std::int16_t iColunas, ListView& lst) override {
+    pedido = sTitulo + " | " + std::to_string(iColunas) + " | " + std::to_string(lst.items().size());
+  }
+  std::string pedido;
+};
+
 class CenarioDeTelas : public testing::TestWithParam<EscolhaDeLado> {
  protected:
+  explicit CenarioDeTelas(void (*registrar)(Telas&) = &vRegistrarTelasDeTitulos) : cenario(GetParam()(), registrar) {}
+
   TelaFaturas& faturas() { return carregada<TelaFaturas>(lado.faturas.sNome); }
   TelaTitulosCadastro& titulos() { return carregada<TelaTitulosCadastro>(lado.titulos.sNome); }
 
@@ -137,7 +151,7 @@ class CenarioDeTelas : public testing::TestWithParam<EscolhaDeLado> {
     return tela;
   }
 
-  Cenario cenario{GetParam()(), &vRegistrarTelasDeTitulos};
+  Cenario cenario;
   const Lado& lado = cenario.lado;
   TestHost& host = cenario.programa.hostDeTeste();
 };

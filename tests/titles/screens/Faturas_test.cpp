@@ -29,7 +29,7 @@ TEST_P(FaturasTest, OpensOnANewInvoice) {
   EXPECT_EQ(tela.txtNumeroFatura.text(), "42");
   EXPECT_EQ(formatDate(tela.dtEmissao.value()), "10/05/2026");
   EXPECT_EQ(tela.lGetCodigo(), -1);
-  EXPECT_EQ(tela.condicao.lCodigo, -1);
+  EXPECT_EQ(tela.condicao.busca.lCodigo, -1);
   EXPECT_THAT(tela.entidades.chaves(), testing::Each(-1));
   EXPECT_EQ(tela.focused(), &tela.txtNumeroFatura);
   EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("41"));
@@ -129,7 +129,7 @@ TEST_P(FaturasTest, ARowBringsTheInvoiceBackIntoTheForm) {
   EXPECT_EQ(tela.entidades.portador.caixa.text(), "Carteira");
   EXPECT_EQ(tela.entidades.centroCusto.caixa.text(), "Loja");
   EXPECT_EQ(tela.entidades.pessoa.busca.lCodigo, 1);
-  EXPECT_EQ(tela.condicao.lCodigo, tresComEntrada.chave);
+  EXPECT_EQ(tela.condicao.busca.lCodigo, tresComEntrada.chave);
   EXPECT_EQ(tela.txtCondPagCodigoInf.text(), "2");
   EXPECT_EQ(tela.txtNumeroParcelas.text(), "3");
   EXPECT_EQ(tela.txtIntervalo.text(), "30");
@@ -241,7 +241,7 @@ TEST_P(FaturasTest, TheQuickSearchAnswersAndTheFocusMovesOn) {
     lista.userClickRow(1);
   });
   tela.userKey(Key::space);
-  EXPECT_EQ(tela.condicao.lCodigo, 2);
+  EXPECT_EQ(tela.condicao.busca.lCodigo, 2);
   EXPECT_EQ(tela.txtCondPagCodigoInf.text(), "2");
   EXPECT_EQ(tela.txtNumeroParcelas.text(), "3");
   EXPECT_EQ(tela.txtIntervalo.text(), "30");
@@ -276,7 +276,7 @@ TEST_P(FaturasTest, InsertAndTheButtonOpenThePersonsRegister) {
   EXPECT_EQ(tela.focused(), &tela.entidades.pessoa.caixa);
   tela.txtTotal.setFocus();
   host.expectScreen(lado.sCadastroPessoa, fechar);
-  tela.entidades.pessoa.cmdNovo.userClick();
+  tela.entidades.pessoa.cmdNovo->userClick();
   EXPECT_EQ(tela.focused(), &tela.entidades.pessoa.caixa);
   EXPECT_EQ(tela.entidades.pessoa.busca.lCodigo, 2) << "the register fills nothing in";
 }
@@ -294,9 +294,9 @@ TEST_P(FaturasTest, TheFourControlsOfTheConditionActAsOne) {
     host.expectScreen("frmCadastroCondicoesPagamento", [](Screen& cadastro) { cadastro.userKey(Key::escape); });
     tela.userKey(Key::insert);
     EXPECT_EQ(tela.focused(), &controle) << nome;
-    EXPECT_EQ(tela.condicao.lCodigo, tresComEntrada.chave);
+    EXPECT_EQ(tela.condicao.busca.lCodigo, tresComEntrada.chave);
     tela.userKey(Key::del);
-    EXPECT_EQ(tela.condicao.lCodigo, -1) << nome;
+    EXPECT_EQ(tela.condicao.busca.lCodigo, -1) << nome;
     EXPECT_EQ(tela.txtCondPagCodigoInf.text() + tela.txtNumeroParcelas.text() + tela.txtIntervalo.text(), "");
     EXPECT_FALSE(tela.chkEntrada.checked());
   }

@@ -2,6 +2,7 @@
 
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
+
 #include <limits>
 
 #include "platform/ui/Layout.h"
@@ -137,7 +138,7 @@ class TitulosPagarTest : public PagarTest {};
 TEST_P(TitulosPagarTest, TheForm) {
   EXPECT_EQ(pagar().caption(), "Títulos a pagar");
   EXPECT_EQ(pagar().title(), "Cadastro de títulos a pagar");
-  EXPECT_THAT(rotulos(pagar()), ElementsAre("Emissão", "Fornecedor", "Portador", "Valor da fatura", "Centro de custo",
+  EXPECT_THAT(rotulos(pagar()), ElementsAre("Emissão", "Fornecedor", "Valor da fatura", "Portador", "Centro de custo",
                                             "Código", "Filial", "Vencimento", "Valor do título", "Nota fiscal",
                                             "Observação", "Pagamento", "Juro cobrado", "Desconto", "Valor pago"));
   for (const char* doReceber : {"txtCliente", "cmdNovoCliente", "txtVendedor", "cmdNovoVendedor", "cmdCalcularJuros"})

@@ -8,6 +8,8 @@
 #include "registers/screens/CadastroCodigoNome.h"
 #include "registers/screens/TelaBuscaRapida.h"
 #include "titles/screens/CenarioDeTelas.h"
+#include "titles/screens/TelaBuscaBaixa.h"
+#include "titles/screens/TelasDosTitulos.h"
 
 namespace fenvale {
 namespace {
@@ -20,6 +22,12 @@ using testing::StartsWith;
 
 class PlanosDasListas : public CenarioDeTelas {
  protected:
+  PlanosDasListas()
+      : CenarioDeTelas([](Telas& telas) {
+          vRegistrarTelasDosCadastros(telas);
+          vRegistrarTelasDosTitulos(telas);
+        }) {}
+
   /// How the engine finds the keys of a statement's rows, step by step.
   std::vector<std::string> plano(const std::string& sConsulta) {
     sql::Database banco(caminho(), nullptr);
@@ -40,8 +48,10 @@ class PlanosDasListas : public CenarioDeTelas {
 };
 
 TEST_P(PlanosDasListas, NoListIsSorted) {
+  const std::string sBaixa = carregada<TelaBuscaBaixa>(lado.titulos.sBuscaBaixa).sConsulta();
   std::vector<std::string> consultas{faturas().sConsulta({}),
                                      titulos().sConsulta({}),
+                                     sBaixa,
                                      carregada<TelaCadastro>("frmCadastroClientes").sConsulta({}),
                                      carregada<TelaCadastro>("frmCadastroFornecedores").sConsulta({}),
                                      carregada<TelaCadastro>("frmCadastroCondicoesPagamento").sConsulta({}),

@@ -4,7 +4,6 @@
 #include <gtest/gtest.h>
 
 #include "access/services/Permissoes.h"
-#include "shell/services/TelasDeApoio.h"
 #include "store/services/ConfiguracoesPrograma.h"
 #include "titles/screens/CenarioDeTelas.h"
 
@@ -22,16 +21,6 @@ class BuscaDeTeste final : public Tela, public TelaBusca {
     vMostrarFormModal(*this);
   }
   std::string sChamador;
-};
-
-/// The options of list printing, which remember what they were given.
-class OpcoesDeTeste final : public Tela, public OpcoesRelatorioLista {
- public:
-  explicit OpcoesDeTeste(Contexto& contexto) : Tela(contexto, "frmOpcoesRelList") {}
-  void vCarregar(const std::string& sTitulo, std::int16_t iColunas, ListView& lst) override {
-    pedido = sTitulo + " | " + std::to_string(iColunas) + " | " + std::to_string(lst.items().size());
-  }
-  std::string pedido;
 };
 
 TEST_P(TitulosListaTest, OpensOnTheOpenTitlesByCode) {
