@@ -118,6 +118,27 @@ TEST_F(Statements, MidIsForgiving) {
   EXPECT_EQ(numberOf([&] { rows("SELECT MID(sNome, 0, 1) FROM Cidades"); }), errors::invalidCall);
 }
 
+TEST_F(Statements, AnEmptyBeginningIsThatOfEveryTextAndOfNoNull) {
+  run("UPDATE TitulosReceber SET sObs = NULL WHERE lCodigo = 1");
+  run("UPDATE TitulosReceber SET sObs = '' WHERE lCodigo = 2");
+  run("UPDATE TitulosReceber SET sObs = 'pago' WHERE lCodigo = 3");
+  const auto found = [this](const std::string& condition) {
+    return rows("SELECT lCodigo FROM TitulosReceber WHERE lCodigo <= 3 AND " + condition + " ORDER BY lCodigo");
+  };
+  // The same shape with other literals, again and again: none is answered with another's translation.
+  for (int again = 0; again < 2; ++again) {
+    EXPECT_THAT(found("MID(sObs, 1, 0) = ''"), ElementsAre("2", "3"));
+    EXPECT_THAT(found("MID(sObs, 1, 2) = 'PA'"), ElementsAre("3"));
+    EXPECT_THAT(found("MID(sObs, 1, 2) = ''"), ElementsAre("2"));
+    EXPECT_THAT(found("MID(sObs, 1, 0) = 'pa'"), IsEmpty());
+    EXPECT_THAT(found("MID(sObs, 3, 0) = ''"), ElementsAre("2", "3"));
+    EXPECT_EQ(numberOf([&] { found("MID(sObs, 0, 0) = ''"); }), errors::invalidCall);
+    EXPECT_THAT(found("NOT (MID(sObs, 1, 0) = '')"), IsEmpty());
+    EXPECT_THAT(found("(MID(sObs, 1, 0) = '' OR lCodigo = 1)"), ElementsAre("1", "2", "3"));
+    EXPECT_THAT(found("MID(sObs, 1, 0) <> ''"), IsEmpty());
+  }
+}
+
 TEST_F(Statements, TextsCompareWithoutCaseAndWithAccents) {
   EXPECT_THAT(rows("SELECT lCodigo FROM Clientes WHERE sNome = 'MARIA'"), ElementsAre("1"));
   EXPECT_THAT(rows("SELECT lCodigo FROM Clientes WHERE sNome = 'zÉ'"), ElementsAre("2"));

@@ -81,6 +81,8 @@ class ExpressionBinder final : private ExpressionVisitor {
   void bindProduct(BoundExpression left, BoundExpression right);
   bool resolve(const NameExpression& node, const std::vector<BoundSource>& sources);
   void keepZero(BoundExpression& value, const BoundExpression& other);
+  LiteralUse* literalOf(const BoundExpression& value);
+  void passEmptyBeginning(BoundExpression& condition);
 
   void bindChoose(const CallExpression& call);
   void bindNullTest(const CallExpression& call);

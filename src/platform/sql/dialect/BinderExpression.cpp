@@ -84,6 +84,7 @@ void ExpressionBinder::bindConditions(const Expression& expression, std::vector<
     bindConditions(binary->right(), conditions);
   } else {
     conditions.push_back(bindCondition(expression));
+    passEmptyBeginning(conditions.back());
   }
 }
 
@@ -190,6 +191,35 @@ void ExpressionBinder::keepZero(BoundExpression& value, const BoundExpression& o
   value = BoundExpression();
   value.operation = Operation::zero;
   value.type = other.type;
+}
+
+/// The literal that a value is in the statement as it was written; nothing when it is computed.
+LiteralUse* ExpressionBinder::literalOf(const BoundExpression& value) {
+  if (value.operation != Operation::parameter) return nullptr;
+  const Parameter& parameter = context_.parameters[value.source];
+  if (parameter.origin != Parameter::Origin::literal || parameter.negated) return nullptr;
+  return &context_.use(parameter.literal);
+}
+
+/// `MID(sNome, 1, 0) = ''`, what a search with an empty box asks for, holds for every text. Asked whether there is a
+/// text at all, the engine need not cut the beginning off each row. That is so where rows are chosen only: there an
+/// unknown answer and a no are one.
+void ExpressionBinder::passEmptyBeginning(BoundExpression& condition) {
+  if (condition.operation != Operation::equal || condition.operands[0].operation != Operation::middle) return;
+  std::vector<BoundExpression>& cut = condition.operands[0].operands;
+  if (cut.size() != 3 || cut[0].operation != Operation::column) return;
+  LiteralUse* const start = literalOf(cut[1]);
+  LiteralUse* const count = literalOf(cut[2]);
+  LiteralUse* const wanted = literalOf(condition.operands[1]);
+  if (start == nullptr || count == nullptr || wanted == nullptr) return;
+  count->dependence = LiteralUse::Dependence::whetherZero;
+  if (!count->zero) return;
+  start->dependence = LiteralUse::Dependence::value;
+  wanted->dependence = LiteralUse::Dependence::value;
+  if (start->text != "1" || !wanted->text.empty()) return;
+  BoundExpression column = std::move(cut[0]);
+  condition.operation = Operation::isNotNull;
+  condition.operands.assign(1, std::move(column));
 }
 
 void ExpressionBinder::bindComparison(const BinaryExpression& node) {
