@@ -3,34 +3,38 @@
 namespace fenvale::bancada {
 namespace {
 
-constexpr const char* titulosNoPrograma =
-    "SELECT lCentroCusto, (CentroCusto.sDescricao) AS CentroCusto, TitulosReceber.lCodigo, sCodigoInf, "
-    "FORMAT(dtVencimento, 'dd/mm/yyyy') AS Vencimento, FORMAT(fValor, '#,##0.00') AS ValorTitulo, "
-    "IIF(fValorPago > 0, FORMAT(dtPagamento, 'dd/mm/yyyy'), '') AS Pagamento, FORMAT(fValorPago, '#,##0.00') AS "
-    "ValorPago, FORMAT(fJuros, '#,##0.00') AS Juros, FORMAT(fDesconto, '#,##0.00') AS Desconto, lNF, sObs, "
-    "IIF(fValorPago <= 0, 'Não', 'Sim') AS Pago, FORMAT(dtEmissao, 'dd/mm/yyyy') AS Emissao, FORMAT(fTotal, "
-    "'#,##0.00') AS ValorFatura, lCliente, (Clientes.sNome) AS Cliente, lPortador, (Portadores.sNome) AS Portador, "
-    "FaturasCliente.lVendedor, (Vendedores.sNome) AS Vendedores FROM ((((TitulosReceber INNER JOIN FaturasCliente ON "
-    "FaturasCliente.lCodigo = TitulosReceber.lFaturaCliente) INNER JOIN Clientes ON FaturasCliente.lCliente = "
-    "Clientes.lCodigo) INNER JOIN Portadores ON FaturasCliente.lPortador = Portadores.lCodigo) INNER JOIN Vendedores "
-    "ON FaturasCliente.lVendedor = Vendedores.lCodigo) INNER JOIN CentroCusto ON FaturasCliente.lCentroCusto = "
-    "CentroCusto.lCodigo ";
-
-/// Both lists of titles show the same columns.
-Consulta titulos(const std::string& sClausula) {
+/// The list of titles of the register, or of the search for settlement: that one shows the number of the invoice and
+/// the payment date as it is stored. By hand a condition that holds for every title is not written.
+Consulta titulos(bool bBaixa, const std::string& sClausula, const std::string& sClausulaAMao) {
+  const std::string sData = "FORMAT(dtPagamento, 'dd/mm/yyyy')";
   Consulta consulta;
-  consulta.sPrograma = titulosNoPrograma + sClausula + " ORDER BY sCodigoInf ";
-  consulta.sContagem = "SELECT COUNT(*) FROM TitulosReceber " + sClausula;
-  consulta.sChaves = "SELECT lCodigo FROM TitulosReceber " + sClausula + " ORDER BY sCodigoInf LIMIT ?1 OFFSET ?2";
+  consulta.sPrograma =
+      std::string("SELECT lCentroCusto, (CentroCusto.sDescricao) AS CentroCusto, ") +
+      (bBaixa ? "lNumeroFatura, " : "") +
+      "TitulosReceber.lCodigo, sCodigoInf, FORMAT(dtVencimento, 'dd/mm/yyyy') AS Vencimento, FORMAT(fValor, "
+      "'#,##0.00') AS ValorTitulo, " +
+      (bBaixa ? sData : "IIF(fValorPago > 0, " + sData + ", '')") +
+      " AS Pagamento, FORMAT(fValorPago, '#,##0.00') AS ValorPago, FORMAT(fJuros, '#,##0.00') AS Juros, "
+      "FORMAT(fDesconto, '#,##0.00') AS Desconto, lNF, sObs, IIF(fValorPago <= 0, 'Não', 'Sim') AS Pago, "
+      "FORMAT(dtEmissao, 'dd/mm/yyyy') AS Emissao, FORMAT(fTotal, '#,##0.00') AS ValorFatura, lCliente, "
+      "(Clientes.sNome) AS Cliente, lPortador, (Portadores.sNome) AS Portador, FaturasCliente.lVendedor, "
+      "(Vendedores.sNome) AS Vendedores FROM ((((TitulosReceber INNER JOIN FaturasCliente ON FaturasCliente.lCodigo = "
+      "TitulosReceber.lFaturaCliente) INNER JOIN Clientes ON FaturasCliente.lCliente = Clientes.lCodigo) INNER JOIN "
+      "Portadores ON FaturasCliente.lPortador = Portadores.lCodigo) INNER JOIN Vendedores ON FaturasCliente.lVendedor "
+      "= Vendedores.lCodigo) INNER JOIN CentroCusto ON FaturasCliente.lCentroCusto = CentroCusto.lCodigo " +
+      sClausula + " ORDER BY sCodigoInf ";
+  consulta.sContagem = "SELECT COUNT(*) FROM TitulosReceber " + sClausulaAMao;
+  consulta.sChaves = "SELECT lCodigo FROM TitulosReceber " + sClausulaAMao + " ORDER BY sCodigoInf LIMIT ?1 OFFSET ?2";
   consulta.sLinha =
-      "SELECT f.lCentroCusto, cc.sDescricao, t.lCodigo, t.sCodigoInf, t.dtVencimento, t.fValor, "
-      "CASE WHEN t.fValorPago > 0 THEN t.dtPagamento END, t.fValorPago, t.fJuros, t.fDesconto, t.lNF, t.sObs, "
-      "CASE WHEN t.fValorPago <= 0 THEN 'Não' ELSE 'Sim' END, f.dtEmissao, f.fTotal, f.lCliente, c.sNome, "
-      "f.lPortador, p.sNome, f.lVendedor, v.sNome FROM TitulosReceber t JOIN FaturasCliente f ON f.lCodigo = "
-      "t.lFaturaCliente JOIN Clientes c ON c.lCodigo = f.lCliente JOIN Portadores p ON p.lCodigo = f.lPortador JOIN "
-      "Vendedores v ON v.lCodigo = f.lVendedor JOIN CentroCusto cc ON cc.lCodigo = f.lCentroCusto WHERE t.lCodigo = "
-      "?1";
-  consulta.sFormas = "ttttdmdmmmtttdmtttttt";
+      std::string("SELECT f.lCentroCusto, cc.sDescricao, ") + (bBaixa ? "f.lNumeroFatura, " : "") +
+      "t.lCodigo, t.sCodigoInf, t.dtVencimento, t.fValor, " +
+      (bBaixa ? "t.dtPagamento" : "CASE WHEN t.fValorPago > 0 THEN t.dtPagamento END") +
+      ", t.fValorPago, t.fJuros, t.fDesconto, t.lNF, t.sObs, CASE WHEN t.fValorPago <= 0 THEN 'Não' ELSE 'Sim' END, "
+      "f.dtEmissao, f.fTotal, f.lCliente, c.sNome, f.lPortador, p.sNome, f.lVendedor, v.sNome FROM TitulosReceber t "
+      "JOIN FaturasCliente f ON f.lCodigo = t.lFaturaCliente JOIN Clientes c ON c.lCodigo = f.lCliente JOIN Portadores "
+      "p ON p.lCodigo = f.lPortador JOIN Vendedores v ON v.lCodigo = f.lVendedor JOIN CentroCusto cc ON cc.lCodigo = "
+      "f.lCentroCusto WHERE t.lCodigo = ?1";
+  consulta.sFormas = std::string(bBaixa ? "ttttt" : "tttt") + "dmdmmmtttdmtttttt";
   return consulta;
 }
 
@@ -67,8 +71,12 @@ Consulta consultaClientes() {
   return consulta;
 }
 
-Consulta consultaTitulosAbertos() { return titulos("WHERE (fValorPago <= 0) "); }
+Consulta consultaTitulosAbertos() { return titulos(false, "WHERE (fValorPago <= 0) ", "WHERE (fValorPago <= 0) "); }
 
-Consulta consultaTitulos() { return titulos(""); }
+Consulta consultaBuscaBaixa() {
+  return titulos(true, "WHERE MID(sCodigoInf, 1, 0) = '' AND (fValorPago <= 0) ", "WHERE (fValorPago <= 0) ");
+}
+
+Consulta consultaTitulos() { return titulos(false, "", ""); }
 
 }  // namespace fenvale::bancada

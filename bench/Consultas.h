@@ -1,5 +1,5 @@
 #pragma once
-// The statements of two lists as their screens write them, and the same rows asked of SQLite by hand: the page's keys
+// The statements of some lists as their screens write them, and the same rows asked of SQLite by hand: the page's keys
 // first, then each row by its key, and no join that brings no column.
 
 #include <string>
@@ -18,6 +18,8 @@ struct Consulta {
 Consulta consultaClientes();
 /// With the clause that the screen of titles opens with: unpaid ones.
 Consulta consultaTitulosAbertos();
+/// What the search for settlement opens with: unpaid titles, of every invoice.
+Consulta consultaBuscaBaixa();
 /// All titles, paid and unpaid.
 Consulta consultaTitulos();
 

@@ -152,6 +152,8 @@ int medir(const Opcoes& opcoes) {
   const Consulta abertos = consultaTitulosAbertos();
   grande.vPaginas("clientes", clientes, grande.lContar(clientes));
   grande.vPaginas("títulos abertos", abertos, grande.lContar(abertos));
+  const Consulta baixa = consultaBuscaBaixa();
+  grande.vPaginas("busca de títulos para baixa", baixa, grande.lContar(baixa));
   const std::int32_t salto = static_cast<std::int32_t>(volume.titulos / 10 * 9);
   relatorio.vLinhas("títulos: salto à linha " + std::to_string(salto), grande.pagina(consultaTitulos(), salto, false),
                     Listas::barra);
