@@ -65,4 +65,5 @@ telas/frmCadastroUsuarios-claro.png galeria/usuarios
 telas/frmCadastroFornecedores-claro.png manual/fornecedor
 telas/frmEmpresaBackup-claro.png manual/backup
 telas/frmZerarTitulos-claro.png manual/eliminacao
+telas/frmLocalizarTitulosReceber-claro.png manual/localizar-baixa
 PICTURES
