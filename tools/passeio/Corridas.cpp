@@ -4,7 +4,9 @@
 #include <cstdio>
 #include <filesystem>
 
+#include "passeio/DiaADia.h"
 #include "passeio/Guia.h"
+#include "passeio/Passos.h"
 #include "passeio/Retratos.h"
 #include "platform/os/Process.h"
 #include "platform/sql/Store.h"
@@ -14,66 +16,11 @@
 namespace fenvale::passeio {
 namespace {
 
-constexpr auto aviso = BoxStyle::exclamation;
-constexpr auto informacao = BoxStyle::information;
 constexpr auto critica = BoxStyle::critical;
-constexpr const char* concluida = "Operação concluída.";
 constexpr const char* atualizado =
     "Banco de Dados atualizado.\r\nExecute o programa novamente para concluir a atualização.";
-constexpr const char* senha = "d'água";
 
-std::string legendaDaEmpresa(const Contexto& programa) {
-  return "Gestor Fenvale - Versão ZENIT   -     Empresa: Loja.MDB     -     Caminho: " +
-         programa.sGetCaminhoAplicacao() + "/Empresas/";
-}
-
-void entrar(Guia& guia) {
-  guia.tela("frmLogin");
-  guia.escolher("cmbLogin", "ADMINISTRADOR");
-  guia.preencher({{"txtSenha", senha}});
-  guia.fotografar("login");
-  guia.tecla(Qt::Key_F3);
-}
-
-void sair(Guia& guia) {
-  guia.tela("frmMDIPrincipal");
-  guia.espereFim(0);
-  guia.menu("mnuSair");
-}
-
-/// F3, the word of success, and what the list then holds.
-void salvar(Guia& guia, const char* retrato, const std::vector<std::string>& linhas) {
-  guia.fotografar(retrato);
-  guia.tecla(Qt::Key_F3);
-  guia.caixa(informacao, concluida);
-  guia.linhas("lstLista", linhas);
-}
-
-void fechar(Guia& guia) {
-  guia.tecla(Qt::Key_Escape);
-  guia.tela("frmMDIPrincipal");
-}
-
-/// Space on a lookup box, the name, and two clicks on the row found.
-void buscar(Guia& guia, const char* caixa, const char* busca, const char* campo, const char* texto, const char* volta) {
-  guia.ir(caixa);
-  guia.tecla(Qt::Key_Space);
-  guia.tela(busca);
-  guia.preencher({{campo, texto}});
-  guia.tecla(Qt::Key_F6);
-  guia.teclarLinha("lstLista", 0, 2);
-  guia.tela(volta);
-}
-
-void abrirEmpresa(Guia& guia, const Contexto& programa) {
-  guia.tela("frmMDIPrincipal");
-  guia.menu("mnuEmpresaAbrir");
-  guia.tela("frmEmpresaAbrir");
-  guia.teclarLinha("lstLista", 0);
-  guia.conteudo("txtCampo", programa.sGetCaminhoAplicacao() + "/Empresas/Loja.MDB");
-  guia.fotografar("abrir-empresa");
-  guia.tecla(Qt::Key_F3);
-}
+std::string caminhoDaLoja(const Contexto& programa) { return programa.sGetCaminhoAplicacao() + "/Empresas/Loja.MDB"; }
 
 // Run 1: an empty folder.
 void primeiraExecucao(Guia& guia, Contexto&, const std::string&) {
@@ -133,7 +80,7 @@ void primeiroUso(Guia& guia, Contexto& programa, const std::string&) {
   guia.linhas("lstLista", {"00001 | Loja.MDB | " + pasta + "/"});
   fechar(guia);
   guia.espereFim(exitRestart);
-  abrirEmpresa(guia, programa);
+  abrirEmpresa(guia, caminhoDaLoja(programa));
   guia.caixa(informacao, atualizado);
 }
 
@@ -143,14 +90,6 @@ void cadastrarCondicao(Guia& guia) {
   guia.preencher({{"txtNumeroParcelas", "4"}, {"txtIntervalo", "30"}});
   guia.marcar("chkEntrada");
   salvar(guia, "condicao-de-pagamento", {"1 | 4 | 30 | Sim"});
-  fechar(guia);
-}
-
-void cadastrarNome(Guia& guia, const char* entrada, const char* tela, const char* campo, const char* nome) {
-  guia.menu(entrada);
-  guia.tela(tela);
-  guia.preencher({{campo, nome}});
-  salvar(guia, "cadastro", {std::string("1 | ") + nome});
   fechar(guia);
 }
 
@@ -204,7 +143,7 @@ void cadastrarFatura(Guia& guia) {
 // Run 3: the company's own data, what an invoice needs, and the invoice.
 void primeiraFatura(Guia& guia, Contexto& programa, const std::string&) {
   entrar(guia);
-  abrirEmpresa(guia, programa);
+  abrirEmpresa(guia, caminhoDaLoja(programa));
   guia.caixa(
       informacao,
       "A relação de Cidades será povoada. Esta operação poderá demorar alguns instantes.\r\nPor favor, aguarde...");
@@ -223,10 +162,11 @@ void primeiraFatura(Guia& guia, Contexto& programa, const std::string&) {
   guia.caixa(informacao, concluida);
   guia.tela("frmMDIPrincipal");
   guia.legenda(legendaDaEmpresa(programa));
-  cadastrarNome(guia, "mnuCadCategorias", "frmCadastroCategorias", "txtNome", "Varejo");
+  cadastrarNome(guia, "mnuCadCategorias", "frmCadastroCategorias", "txtNome", "Varejo", {"1 | Varejo"});
   cadastrarCondicao(guia);
-  cadastrarNome(guia, "mnuCadVendedores", "frmCadastroVendedores", "txtNome", "Maria Aparecida");
-  cadastrarNome(guia, "mnuCadastroPortadores", "frmCadastroPortadores", "txtNome", "Carteira");
+  cadastrarNome(guia, "mnuCadVendedores", "frmCadastroVendedores", "txtNome", "Maria Aparecida",
+                {"1 | Maria Aparecida"});
+  cadastrarNome(guia, "mnuCadastroPortadores", "frmCadastroPortadores", "txtNome", "Carteira", {"1 | Carteira"});
   cadastrarCliente(guia);
   cadastrarFatura(guia);
   sair(guia);
@@ -323,11 +263,12 @@ void baixa(Guia& guia, Contexto& programa, const std::string&) {
   sair(guia);
 }
 
-// Run 5: leaving has kept the company; every screen has its picture taken.
+// The last runs: leaving has kept the company; every screen has its picture taken.
 void retratos(Guia& guia, Contexto& programa, const std::string& pasta) {
   retratarNosDoisTons(guia, programa, pasta, "frmLogin");
   entrar(guia);
-  guia.tela("frmMDIPrincipal");
+  guia.tela("frmMostrarContas");
+  fechar(guia);
   guia.legenda(legendaDaEmpresa(programa));
   retratarTelas(guia, programa, pasta);
   sair(guia);
@@ -341,8 +282,11 @@ const std::vector<Corrida>& corridas() {
       {"primeiro uso", makeDate(2026, 3, 1), exitRestart, false, primeiroUso},
       {"primeira fatura", makeDate(2026, 3, 1), 0, false, primeiraFatura},
       {"baixa", makeDate(2026, 4, 20), 0, false, baixa},
-      {"retratos", makeDate(2026, 4, 20), 0, false, retratos},
-      {"retratos a 200 %", makeDate(2026, 4, 20), 0, true, retratos},
+      {"contas a pagar", makeDate(2026, 4, 21), 0, false, contasAPagar},
+      {"vencimentos", makeDate(2026, 6, 20), 0, false, vencimentos},
+      {"manutenção", makeDate(2026, 6, 20), 0, false, manutencao},
+      {"retratos", makeDate(2026, 6, 20), 0, false, retratos},
+      {"retratos a 200 %", makeDate(2026, 6, 20), 0, true, retratos},
   };
   return todas;
 }

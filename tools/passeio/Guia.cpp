@@ -41,6 +41,8 @@ std::string conteudoDe(const Control& controle) {
       return formatDate(static_cast<const DatePicker&>(controle).value());
     case ControlKind::comboBox:
       return static_cast<const ComboBox&>(controle).text();
+    case ControlKind::label:
+      return static_cast<const Label&>(controle).caption();
     case ControlKind::checkBox:
       return static_cast<const CheckBox&>(controle).checked() ? "sim" : "não";
     default:

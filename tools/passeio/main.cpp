@@ -51,7 +51,7 @@ class RelogioParado final : public Clock {
   Date hoje_;
 };
 
-/// Ends the process only as the tour expects it.
+/// Ends the process only as the tour expects it, and opens no file.
 class FimEsperado final : public Process {
  public:
   explicit FimEsperado(const Guia& guia) : guia_(guia) {}
@@ -60,6 +60,7 @@ class FimEsperado final : public Process {
     std::fprintf(stderr, "o programa terminou com %d onde o passeio não esperava\n", exitCode);
     _exit(diferente);
   }
+  void openFile(const std::string&) override {}
 
  private:
   const Guia& guia_;
@@ -130,12 +131,15 @@ int correr(std::size_t numero, const std::string& pasta, int argc, char** argv) 
   _exit(diferente);
 }
 
-/// The program's folder as it is on the first day: the shipped files and a place for companies.
+/// The program's folder as it is on the first day: the shipped files and a place for companies. The user's own folder
+/// is empty.
 void prepararPasta(const std::string& pasta) {
   const fs::path destino = pasta + "/programa";
   fs::remove_all(destino);
   fs::remove_all(pasta + "/telas");
   fs::create_directories(destino / "Empresas");
+  fs::remove_all(pasta + "/usuario");
+  fs::create_directories(pasta + "/usuario");
   for (const char* arquivo : {"SQL.xmlSQL", "SQLEmpresas.xmlSQL", "Cidades.XML", "Bancos.XML"})
     fs::copy(fs::path(pastaDosDados()) / arquivo, destino / arquivo);
   for (const std::string& figuras : {pastaDosDados(), pastaDosDados() + "/figuras"}) {
@@ -162,6 +166,7 @@ int correrEmProcesso(std::size_t numero, const std::string& pasta) {
   const pid_t filho = fork();
   if (filho == 0) {
     descreverMonitor(pasta, corridas()[numero].emDobro);
+    setenv("HOME", (pasta + "/usuario").c_str(), 1);
     if (corridas()[numero].emDobro) setenv("QT_SCALE_FACTOR", "2", 1);
     const std::string qual = std::to_string(numero);
     execl("/proc/self/exe", "fenvale-passeio", "--corrida", qual.c_str(), pasta.c_str(), nullptr);

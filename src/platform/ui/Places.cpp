@@ -4,6 +4,7 @@
 #include <unistd.h>
 
 #include <algorithm>
+#include <cstdlib>
 #include <filesystem>
 #include <system_error>
 
@@ -17,6 +18,7 @@ namespace fs = std::filesystem;
 constexpr std::int32_t deviceNotReady = 68;
 
 std::string homeFolder() {
+  if (const char* const home = std::getenv("HOME"); home != nullptr && *home != '\0') return home;
   const passwd* user = getpwuid(getuid());
   return user != nullptr && user->pw_dir != nullptr ? user->pw_dir : std::string();
 }
