@@ -45,6 +45,7 @@ done <<'PICTURES'
 [0-9][0-9][0-9]-cliente.png galeria/cliente
 [0-9][0-9][0-9]-fatura.png galeria/fatura
 [0-9][0-9][0-9]-juros.png galeria/titulos
+[0-9][0-9][0-9]-quadro-geral.png galeria/quadro
 telas/frmCadastroTitulosReceber-escuro.png galeria/titulos-escuro
 telas/frmCadastroUsuarios-claro.png galeria/usuarios
 [0-9][0-9][0-9]-primeiro-usuario.png manual/primeiro-usuario
@@ -62,8 +63,13 @@ telas/frmCadastroUsuarios-claro.png galeria/usuarios
 [0-9][0-9][0-9]-titulos-da-fatura.png manual/titulos-da-fatura
 [0-9][0-9][0-9]-juros.png manual/juros
 [0-9][0-9][0-9]-pagamento-parcial.png+1 manual/pagamento-parcial
-telas/frmCadastroFornecedores-claro.png manual/fornecedor
-telas/frmEmpresaBackup-claro.png manual/backup
-telas/frmZerarTitulos-claro.png manual/eliminacao
-telas/frmLocalizarTitulosReceber-claro.png manual/localizar-baixa
+[0-9][0-9][0-9]-fornecedor.png manual/fornecedor
+[0-9][0-9][0-9]-pagamento-com-desconto.png manual/desconto
+[0-9][0-9][0-9]-localizar-para-baixa.png manual/localizar-baixa
+[0-9][0-9][0-9]-quadro-geral.png manual/quadro
+[0-9][0-9][0-9]-opcoes-da-listagem.png manual/impressao
+[0-9][0-9][0-9]-transferencia.png manual/transferencia
+[0-9][0-9][0-9]-zeramento.png manual/eliminacao
+[0-9][0-9][0-9]-backup.png manual/backup
+[0-9][0-9][0-9]-localizar-backup.png manual/localizar-backup
 PICTURES

@@ -168,7 +168,7 @@ void pedirQuadroNaEntrada(Guia& guia) {
   guia.tela("frmSistema");
   guia.marcar("chkMostrarContasPagarDia");
   guia.marcar("chkMostrarContasVencidasReceber");
-  guia.fotografar("quadro-na-entrada");
+  guia.fotografar("pedir-quadro");
   guia.tecla(Qt::Key_F3);
   guia.caixa(informacao, concluida);
   guia.tela("frmMDIPrincipal");

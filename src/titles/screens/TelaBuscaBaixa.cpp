@@ -43,10 +43,7 @@ TelaBuscaBaixa::TelaBuscaBaixa(Contexto& contexto, const DescricaoBuscaBaixa& de
 }
 
 void TelaBuscaBaixa::onLoad() {
-  // The row that was clicked last is not forgotten here: a title clicked on in the title screen before needs but one
-  // click more.
-  pbBarrra.setValue(0);
-  vRestaurarColunas();
+  TelaEscolha::onLoad();
   vIniciarPeriodos(contexto().relogio().today());
   cmdEmitir.setEnabled(bPodeEmitir());
 }

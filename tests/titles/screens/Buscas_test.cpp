@@ -394,11 +394,13 @@ TEST_P(BuscasTest, TwoClicksOnOneRowBringItsTitleToBeSettled) {
   });
 }
 
-TEST_P(BuscasTest, ARowThatWasClickedOnInTheTitleScreenNeedsOneClickMore) {
+TEST_P(BuscasTest, ARowThatWasClickedOnInTheTitleScreenNeedsTwoClicksInTheSearch) {
   encher();
   titulos().lstLista.userClickRow(1);
   titulos().txtObs.userType("desfeito ao carregar de novo");
   naBaixa([&](TelaBuscaBaixa& tela) {
+    tela.lstLista.userClickRow(1);
+    EXPECT_EQ(tela.state(), Screen::State::loaded);
     tela.lstLista.userClickRow(1);
     EXPECT_EQ(tela.state(), Screen::State::unloaded);
   });
