@@ -32,10 +32,11 @@ class ManutencaoEmJanelas : public CadastrosEmJanelas {
           "UPDATE Vendedores SET sNome = 'João Batista' WHERE lCodigo = 2",
           "INSERT INTO Portadores (btCodigoInf, sNome) VALUES (1, 'Carteira')",
           "INSERT INTO CentroCusto (btCodigoInf, sDescricao) VALUES (1, 'Loja')",
-          "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (1, 1, 0, 0)",
-          "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
-          "lCidadeEntrega, lCidadeCobranca) VALUES (1, 'Bar do Élio', 0, #01/01/1980#, 1, 1, 1, 1, 1)"})
+          "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (1, 1, 0, 0)"})
       executar(sSQL);
+    executar(
+        "INSERT INTO Clientes (lCodigoInf, sNome, fLimiteCredito, dtNascimento, lCategoria, lCidade, lVendedor, "
+        "lCidadeEntrega, lCidadeCobranca) VALUES (1, 'Bar do Élio', 0, #01/01/1980#, 1, 1, 1, 1, 1)");
     for (int i = 1; i <= faturas; ++i) {
       const std::string sNumero = std::to_string(i);
       executar(
