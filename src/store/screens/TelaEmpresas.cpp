@@ -29,7 +29,7 @@ TelaEmpresas::TelaEmpresas(Contexto& contexto, std::string sNome, ListView::Chec
   vSetColunas({
       {.sCabecalho = "Código", .fLargura = 1300, .sCampo = "lCodigo", .sMascara = "00000"},
       {.sCabecalho = "Nome do arquivo", .fLargura = 3400, .sCampo = "sNomeArquivo"},
-      {.sCabecalho = "Caminho", .fLargura = 6000, .sCampo = "sCaminho"},
+      {.sCabecalho = "Caminho", .fLargura = 5800, .sCampo = "sCaminho"},
   });
   cmdEmitir.onClick = [this] { vEmitirLista("Empresas criadas", iColunasImpressao); };
   cmdFechar.onClick = [this] { unload(); };

@@ -53,7 +53,7 @@ class QuadroEmJanela : public testing::Test, protected AmbienteDeTeste {
   }
   /// As the start opens it when the firm asked for these lists only.
   frmMostrarContas& abrirSomente(const std::string& sColunas) {
-    Recordset("UPDATE Sistema SET " + sColunas, programa.dbConectar().Dados());
+    const Recordset comando("UPDATE Sistema SET " + sColunas, programa.dbConectar().Dados());
     programa.quadroGeralContas().vSetMotrarTodas(false);
     return abrir();
   }

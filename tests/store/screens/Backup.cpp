@@ -350,7 +350,7 @@ TEST_F(Backup, ACompanyThatAnotherProgramHasForItselfIsReported) {
     sqlite3_open((pasta() + "loja.MDB").c_str(), &banco);
     const bool bPronto = sqlite3_exec(banco, "BEGIN EXCLUSIVE", nullptr, nullptr, nullptr) == SQLITE_OK &&
                          ::write(pronto[1], "!", 1) == 1;
-    while (bPronto) ::pause();
+    if (bPronto) ::pause();
     ::_exit(1);
   }
   char sinal = 0;
