@@ -33,7 +33,8 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr double barraAbertura = 1000;
-constexpr double barraLinhas = 1.5;
+/// Not a page but the whole list, its formats included.
+constexpr double barraLinhas = 2;
 /// A step that takes longer than one picture of sixty in a second is seen.
 constexpr double barraPasso = 16;
 

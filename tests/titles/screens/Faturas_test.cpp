@@ -320,11 +320,11 @@ TEST_P(FaturasTest, ARightClickShowsTheTitlesOfTheInvoice) {
       {"mnuMostrarPagos", {"000002/001"}},
       {"mnuMostrarNaoPagos", {"000002/002", "000002/003"}}};
   ASSERT_NE(outra, chave);
-  for (const auto& [nome, codigos] : entradas) {
+  for (const auto& entrada : entradas) {
     faturas().vMontarLista(0, {});
-    host.expectPopup("mnuPopUp", nome);
+    host.expectPopup("mnuPopUp", entrada.first);
     host.expectScreen(lado.titulos.sNome, [&](Screen& tela) {
-      EXPECT_EQ(primeiraColuna(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista), codigos) << nome;
+      EXPECT_EQ(primeiraColuna(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista), entrada.second) << entrada.first;
       tela.userKey(Key::escape);
     });
     faturas().lstLista.userClickRow(1, MouseButton::right);
