@@ -45,7 +45,10 @@ void conferirLinhas(Guia& guia, Contexto& programa, const char* consulta, const 
   if (linhas != esperadas) guia.falhar(std::string(consulta) + ": há" + vistas);
 }
 
-std::string pastaDoUsuario() { return std::getenv("HOME"); }
+std::string pastaDoUsuario() {
+  const char* const pasta = std::getenv("HOME");
+  return pasta == nullptr ? std::string() : pasta;
+}
 
 /// With the line ends of the program's files.
 std::string comQuebras(std::string_view texto) {

@@ -219,7 +219,8 @@ void ExpressionBinder::passEmptyBeginning(BoundExpression& condition) {
   if (start->text != "1" || !wanted->text.empty()) return;
   BoundExpression column = std::move(cut[0]);
   condition.operation = Operation::isNotNull;
-  condition.operands.assign(1, std::move(column));
+  condition.operands.clear();
+  condition.operands.push_back(std::move(column));
 }
 
 void ExpressionBinder::bindComparison(const BinaryExpression& node) {
