@@ -8,7 +8,7 @@ namespace {
 
 /// Picks the city that it is told to.
 struct BuscaCidadeFalsa : Screen, BuscaCidade {
-  explicit BuscaCidadeFalsa(Contexto& contexto, std::string sNome) : Screen(contexto.host(), "frmLocalizarCidades") {
+  BuscaCidadeFalsa(Contexto& contexto, const std::string& sNome) : Screen(contexto.host(), "frmLocalizarCidades") {
     escolhida.vSetEstado2(contexto, sNome, "SP", true);
   }
   void vCarregar(bool) override { host().showModal(*this); }

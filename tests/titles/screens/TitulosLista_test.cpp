@@ -231,10 +231,10 @@ TEST_P(TitulosListaTest, ThePersonsTitlesAreReachedFromTheirRegister) {
       {"mnuMostrarPagos", {"000001/002"}},
       {"mnuMostrarNaoPagos", {"000001/001", "000001/003"}}};
   auto& pessoas = carregada<TelaCadastro>(lado.sCadastroPessoa);
-  for (const auto& [nome, codigos] : entradas) {
-    host.expectPopup("mnuPopUp", nome);
-    host.expectScreen(lado.titulos.sNome, [&codigos](Screen& tela) {
-      EXPECT_EQ(primeiraColuna(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista), codigos);
+  for (const auto& entrada : entradas) {
+    host.expectPopup("mnuPopUp", entrada.first);
+    host.expectScreen(lado.titulos.sNome, [&entrada](Screen& tela) {
+      EXPECT_EQ(primeiraColuna(dynamic_cast<TelaTitulosCadastro&>(tela).lstLista), entrada.second);
       tela.userKey(Key::escape);
     });
     pessoas.lstLista.userClickRow(0, MouseButton::right);

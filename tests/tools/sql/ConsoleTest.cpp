@@ -150,7 +150,7 @@ TEST_F(Console, WrongUseEndsWithTwo) {
 
 TEST_F(Console, AFileThatIsNoStoreEndsWithTwo) {
   std::ofstream(path("texto.MDB")) << "nada disso";
-  std::ofstream(path("vazio.MDB"));
+  std::ofstream(path("vazio.MDB")).close();
   const Answer text = run("texto.MDB", "SELECT 1\n");
   EXPECT_EQ(text.exitCode, 2);
   EXPECT_EQ(text.messages, "O arquivo texto.MDB não é um banco de dados do sistema.\n");
