@@ -98,19 +98,17 @@ void cadastrarCliente(Guia& guia) {
   guia.menu("mnuCadClientes");
   guia.tela(tela);
   guia.preencher({{"txtNome", "Açougue São João Ltda."}, {"txtLimiteCredito", "5000,00"}});
-  buscar(guia, "txtCategoria", "frmLocalizarCategoriasRapido", "txtNome", "Var", tela);
+  buscar(guia, tela, {{"txtCategoria", "frmLocalizarCategoriasRapido", "Var"}});
   guia.preencher({{"txtEndereco", "Rua Barão de Jaguara, 100"}, {"txtBairro", "Centro"}});
-  guia.ir("txtCidade");
-  guia.tecla(Qt::Key_Space);
-  guia.tela("frmLocalizarCidades");
-  guia.preencher({{"txtNome", "Santa Bárbara d'"}});
-  guia.tecla(Qt::Key_F6);
-  guia.fotografar("localizar-cidade");
-  guia.teclarLinha("lstLista", 0);
-  guia.tela(tela);
+  buscar(guia, tela,
+         {{.caixa = "txtCidade",
+           .busca = "frmLocalizarCidades",
+           .texto = "Santa Bárbara d'",
+           .vezes = 1,
+           .retrato = "localizar-cidade"}});
   guia.conteudo("txtCidade", "Santa Bárbara d'Oeste");
   guia.preencher({{"txtCEP", "13450000"}, {"txtTelefone", "1934551020"}, {"txtContato", "João Batista"}});
-  buscar(guia, "txtVendedor", "frmLocalizarVendedoresRapido", "txtNome", "Mar", tela);
+  buscar(guia, tela, {{"txtVendedor", "frmLocalizarVendedoresRapido", "Mar"}});
   guia.preencher({{"txtCNPJ", "11444777000161"}, {"txtEMail", "contato@acougue.example"}});
   guia.fotografar("cliente");
   guia.tecla(Qt::Key_F3);
@@ -119,23 +117,7 @@ void cadastrarCliente(Guia& guia) {
 }
 
 void cadastrarFatura(Guia& guia) {
-  constexpr const char* tela = "frmCadastroFaturasCliente";
-  guia.menu("mnuCadFaturasClientes");
-  guia.tela(tela);
-  guia.conteudo("txtNumeroFatura", "1");
-  guia.preencher({{"txtTotal", "1000,00"}, {"txtEntrada", "100,00"}});
-  buscar(guia, "txtCliente", "frmLocalizarClientesRapido", "txtNome", "Aç", tela);
-  buscar(guia, "txtCondPagCodigoInf", "frmLocalizarCondicoesPagamentoRapido", "txtCodigoInf", "1", tela);
-  buscar(guia, "txtPortador", "frmLocalizarPortadoresRapido", "txtNome", "Car", tela);
-  buscar(guia, "txtVendedor", "frmLocalizarVendedoresRapido", "txtNome", "Mar", tela);
-  guia.fotografar("fatura");
-  guia.tecla(Qt::Key_F3);
-  guia.pergunta("Deseja visualizar os títulos relacionados à essa fatura?", true);
-  guia.tela("frmCadastroTitulosReceber");
-  guia.fotografar("titulos-da-fatura");
-  guia.tecla(Qt::Key_Escape);
-  guia.caixa(informacao, concluida);
-  guia.tela(tela);
+  lancar(guia, faturaDeCliente(), {"1", "1000,00", "100,00", "fatura", "titulos-da-fatura"});
   guia.fotografar("fatura-salva");
   fechar(guia);
 }
@@ -183,6 +165,15 @@ void abrirTitulo(Guia& guia, int linha, const char* codigo) {
   guia.conteudo("txtCodigoInf", codigo);
 }
 
+/// Settles the loaded title, with its picture when it is wanted, and says yes to what the program asks.
+void pagar(Guia& guia, const char* valor, const char* retrato, const char* pergunta) {
+  guia.preencher({{"txtValorPago", valor}});
+  if (retrato != nullptr) guia.fotografar(retrato);
+  guia.tecla(Qt::Key_F3);
+  guia.pergunta(pergunta, true);
+  guia.caixa(informacao, concluida);
+}
+
 const char* const titulosNoFim[] = {
     "000001/001\t01/03/2026\t100,00\t100,00\t0,00", "000001/002\t31/03/2026\t300,00\t312,12\t12,12",
     "000001/003\t30/04/2026\t300,00\t100,00\t0,00", "000001/004\t30/05/2026\t300,00\t350,00\t0,00",
@@ -226,36 +217,23 @@ void baixa(Guia& guia, Contexto& programa, const std::string&) {
   guia.caixa(informacao, concluida);
 
   abrirTitulo(guia, 0, "000001/003");
-  guia.preencher({{"txtValorPago", "100,00"}});
-  guia.fotografar("pagamento-parcial");
-  guia.tecla(Qt::Key_F3);
-  guia.pergunta(
-      "O valor pago informado (R$ 100,00) é menor que o valor do título (R$ 300,00).\r\n"
-      "Esta operação criará um título complementar de reajuste no valor de R$ 200,00 .\r\n\r\nConfirma está operação?",
-      true);
-  guia.caixa(informacao, concluida);
+  pagar(guia, "100,00", "pagamento-parcial",
+        "O valor pago informado (R$ 100,00) é menor que o valor do título (R$ 300,00).\r\n"
+        "Esta operação criará um título complementar de reajuste no valor de R$ 200,00 .\r\n\r\n"
+        "Confirma está operação?");
 
   abrirTitulo(guia, 0, "000001/004");
-  guia.preencher({{"txtValorPago", "350,00"}});
-  guia.fotografar("pagamento-maior");
-  guia.tecla(Qt::Key_F3);
-  guia.pergunta(
-      "O valor pago informado (R$ 350,00) é superior ao valor do título.\r\n"
-      "Assim, R$ 50,00 podem ser abatidos nos demais títulos não pagos desta fatura.\r\n\r\n"
-      "Deseja continuar a operação, pagando este título e efetuando o desconto nos demais títulos não pagos desta "
-      "fatura?",
-      true);
-  guia.caixa(informacao, concluida);
+  pagar(guia, "350,00", "pagamento-maior",
+        "O valor pago informado (R$ 350,00) é superior ao valor do título.\r\n"
+        "Assim, R$ 50,00 podem ser abatidos nos demais títulos não pagos desta fatura.\r\n\r\n"
+        "Deseja continuar a operação, pagando este título e efetuando o desconto nos demais títulos não pagos desta "
+        "fatura?");
 
   abrirTitulo(guia, 0, "000001/R01");
   guia.conteudo("txtValor", "337,88");
-  guia.preencher({{"txtValorPago", "337,88"}});
-  guia.tecla(Qt::Key_F3);
-  guia.pergunta(
-      "O valor pago informado (R$ 337,88) é igual ao valor do título.\r\n"
-      "Esta operação determinará o pagamento do título.\r\n\r\nConfirma o pagamento do título?",
-      true);
-  guia.caixa(informacao, concluida);
+  pagar(guia, "337,88", nullptr,
+        "O valor pago informado (R$ 337,88) é igual ao valor do título.\r\n"
+        "Esta operação determinará o pagamento do título.\r\n\r\nConfirma o pagamento do título?");
   guia.linhas("lstLista", {});
   guia.fotografar("fatura-quitada");
   fechar(guia);

@@ -68,17 +68,11 @@ void cadastrarFornecedor(Guia& guia) {
   guia.tela(tela);
   guia.conteudo("txtCodigoInf", "1");
   guia.preencher({{"txtNome", "Distribuidora Três Irmãos Ltda."}});
-  buscar(guia, "txtCategoria", "frmLocalizarCategoriasRapido", "txtNome", "Var", tela);
+  buscar(guia, tela, {{"txtCategoria", "frmLocalizarCategoriasRapido", "Var"}});
   guia.preencher({{"txtEndereco", "Rua Treze de Maio, 230"}});
-  guia.ir("txtCidade");
-  guia.tecla(Qt::Key_Space);
-  guia.tela("frmLocalizarCidades");
-  guia.preencher({{"txtNome", "Valinhos"}});
-  guia.tecla(Qt::Key_F6);
-  guia.teclarLinha("lstLista", 0);
-  guia.tela(tela);
+  buscar(guia, tela, {{.caixa = "txtCidade", .busca = "frmLocalizarCidades", .texto = "Valinhos", .vezes = 1}});
   guia.preencher({{"txtCEP", "13270030"}, {"txtTelefone", "1932275500"}, {"txtCNPJ", "11444777000161"}});
-  buscar(guia, "txtBanco", "frmLocalizarBancos", "txtNome", "Banco do B", tela);
+  buscar(guia, tela, {{"txtBanco", "frmLocalizarBancos", "Banco do B"}});
   guia.preencher({{"txtAgencia", "1234-5"}, {"txtConta", "98765-0"}});
   guia.fotografar("fornecedor");
   guia.tecla(Qt::Key_F3);
@@ -88,21 +82,8 @@ void cadastrarFornecedor(Guia& guia) {
 
 /// One invoice with an entry and three titles of the condition 1.
 void faturaDoFornecedor(Guia& guia) {
-  constexpr const char* tela = "frmCadastroFaturasFornecedor";
-  guia.menu("mnuCadFaturasFornecedores");
-  guia.tela(tela);
-  guia.conteudo("txtNumeroFatura", "1");
-  guia.preencher({{"txtTotal", "900,00"}, {"txtEntrada", "90,00"}});
-  buscar(guia, "txtFornecedor", "frmLocalizarFornecedoresRapido", "txtNome", "Dis", tela);
-  buscar(guia, "txtCondPagCodigoInf", "frmLocalizarCondicoesPagamentoRapido", "txtCodigoInf", "1", tela);
-  buscar(guia, "txtPortador", "frmLocalizarPortadoresRapido", "txtNome", "Car", tela);
-  guia.fotografar("fatura-do-fornecedor");
-  guia.tecla(Qt::Key_F3);
-  guia.pergunta("Deseja visualizar os títulos relacionados à essa fatura?", true);
-  guia.tela("frmCadastroTitulosPagar");
-  guia.fotografar("titulos-da-fatura-do-fornecedor");
-  guia.tecla(Qt::Key_Escape);
-  guia.caixa(informacao, concluida);
+  lancar(guia, faturaDeFornecedor(),
+         {"1", "900,00", "90,00", "fatura-do-fornecedor", "titulos-da-fatura-do-fornecedor"});
   fechar(guia);
 }
 
@@ -141,18 +122,8 @@ void pagarComDesconto(Guia& guia) {
 }
 
 void outraFaturaDoCliente(Guia& guia) {
-  constexpr const char* tela = "frmCadastroFaturasCliente";
-  guia.menu("mnuCadFaturasClientes");
-  guia.tela(tela);
-  guia.conteudo("txtNumeroFatura", "2");
-  guia.preencher({{"txtTotal", "600,00"}, {"txtEntrada", "60,00"}});
-  buscar(guia, "txtCliente", "frmLocalizarClientesRapido", "txtNome", "Aç", tela);
-  buscar(guia, "txtCondPagCodigoInf", "frmLocalizarCondicoesPagamentoRapido", "txtCodigoInf", "1", tela);
-  buscar(guia, "txtPortador", "frmLocalizarPortadoresRapido", "txtNome", "Car", tela);
-  buscar(guia, "txtVendedor", "frmLocalizarVendedoresRapido", "txtNome", "Mar", tela);
-  guia.tecla(Qt::Key_F3);
-  guia.pergunta("Deseja visualizar os títulos relacionados à essa fatura?", false);
-  guia.caixa(informacao, concluida);
+  const Fatura fatura = faturaDeCliente();
+  lancar(guia, fatura, {"2", "600,00", "60,00"});
 
   guia.tecla(Qt::Key_F6);
   guia.tela("frmLocalizarFaturasCliente");
@@ -160,7 +131,7 @@ void outraFaturaDoCliente(Guia& guia) {
   guia.fotografar("localizar-faturas");
   guia.tecla(Qt::Key_F6);
   guia.tecla(Qt::Key_Escape);
-  guia.tela(tela);
+  guia.tela(fatura.tela);
   guia.fotografar("fatura-localizada");
   fechar(guia);
 }
@@ -263,8 +234,9 @@ void transferirClientes(Guia& guia, Contexto& programa) {
                 {"1 | Maria Aparecida", "2 | José Carlos"});
   guia.menu("mnuTransferenciaVendedores");
   guia.tela(tela);
-  buscar(guia, "txtVendedorOrigem", "frmLocalizarVendedoresRapido", "txtNome", "Mar", tela);
-  buscar(guia, "txtVendedorDestino", "frmLocalizarVendedoresRapido", "txtNome", "Jos", tela);
+  buscar(guia, tela,
+         {{"txtVendedorOrigem", "frmLocalizarVendedoresRapido", "Mar"},
+          {"txtVendedorDestino", "frmLocalizarVendedoresRapido", "Jos"}});
   guia.fotografar("transferencia");
   guia.tecla(Qt::Key_F3);
   guia.caixa(informacao, concluida);

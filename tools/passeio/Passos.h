@@ -27,8 +27,39 @@ void sair(Guia& guia);
 void fechar(Guia& guia);
 /// F3, the word of success, and what the list then holds.
 void salvar(Guia& guia, const char* retrato, const std::vector<std::string>& linhas);
-/// Space on a lookup box, the name, and two clicks on the row found.
-void buscar(Guia& guia, const char* caixa, const char* busca, const char* campo, const char* texto, const char* volta);
+
+/// What is looked up for a box of a screen: the search, what is typed there, and Space on the first row found.
+struct Procura {
+  const char* caixa;
+  const char* busca;
+  const char* texto;
+  const char* campo = "txtNome";
+  int vezes = 2;                  ///< how often Space, until the row is taken
+  const char* retrato = nullptr;  ///< of the search, when it is wanted
+};
+/// Each box by Space, and back on the screen.
+void buscar(Guia& guia, const char* tela, const std::vector<Procura>& procuras);
+
+/// An invoice of the payment condition 1, with what is told apart on the two sides of the business.
+struct Fatura {
+  const char* menu;
+  const char* tela;
+  const char* titulos;  ///< the screen of its titles
+  std::vector<Procura> procuras;
+};
+Fatura faturaDeCliente();
+Fatura faturaDeFornecedor();
+/// What is typed, and the pictures that are wanted; the titles are looked at for the sake of theirs.
+struct Lancamento {
+  const char* numero;
+  const char* total;
+  const char* entrada;
+  const char* retrato = nullptr;
+  const char* retratoDosTitulos = nullptr;
+};
+/// From the menu to the saved invoice on its screen.
+void lancar(Guia& guia, const Fatura& fatura, const Lancamento& lancamento);
+
 /// The row of the company with that number in the list, and F3.
 void abrirEmpresa(Guia& guia, const std::string& caminho, int linha = 0);
 /// A record of a code and a name in a small register, and the list's rows after it.
