@@ -1,5 +1,9 @@
 #include "Consultas.h"
 
+#include "gerador/Arquivo.h"
+#include "platform/base/Currency.h"
+#include "platform/base/Format.h"
+
 namespace fenvale::bancada {
 namespace {
 
@@ -36,6 +40,14 @@ Consulta titulos(bool bBaixa, const std::string& sClausula, const std::string& s
       "f.lCentroCusto WHERE t.lCodigo = ?1";
   consulta.sFormas = std::string(bBaixa ? "ttttt" : "tttt") + "dmdmmmtttdmtttttt";
   return consulta;
+}
+
+std::string sMostrado(const Comando& comando, int coluna, char forma) {
+  if (forma == 'm') return formatNumber(Currency::fromUnits(comando.inteiro(coluna)));
+  const std::string_view texto = comando.texto(coluna);
+  if (forma == 't' || texto.empty()) return std::string(texto);
+  return std::string(texto.substr(8, 2)) + "/" + std::string(texto.substr(5, 2)) + "/" +
+         std::string(texto.substr(0, 4));
 }
 
 }  // namespace
@@ -78,5 +90,12 @@ Consulta consultaBuscaBaixa() {
 }
 
 Consulta consultaTitulos() { return titulos(false, "", ""); }
+
+std::vector<std::string> linhaMostrada(const Comando& comando, std::string_view sFormas) {
+  std::vector<std::string> linha;
+  linha.reserve(sFormas.size());
+  for (int coluna = 0; const char forma : sFormas) linha.push_back(sMostrado(comando, coluna++, forma));
+  return linha;
+}
 
 }  // namespace fenvale::bancada

@@ -2,7 +2,6 @@
 
 #include <cstdlib>
 #include <filesystem>
-#include <iostream>
 
 #include "medida/Acervo.h"
 #include "medida/Medida.h"
@@ -19,7 +18,7 @@ void vCopiarSemConferir(const std::string& sOrigem, const std::string& sDestino)
     throw Error(errors::fileAccess, "cp could not copy the generated company.");
 }
 
-int medir(const Opcoes& opcoes) {
+void medir(const Opcoes& opcoes, Relatorio& relatorio) {
   const std::string sOrigem = sEmpresaGerada(opcoes.bRapido ? volumePequeno : volumeGrande);
   const std::string sCopia = sOrigem + ".copia";
   const RelogioFixo relogio;
@@ -34,20 +33,15 @@ int medir(const Opcoes& opcoes) {
         vCopiarSemConferir(sOrigem, sCopia);
       });
   fs::remove(sCopia);
-  Relatorio relatorio;
   relatorio.vLinha("backup de uma empresa: tamanho", static_cast<double>(fs::file_size(sOrigem)) / 1e6, "MB");
   relatorio.vLinha("backup de uma empresa: copiado e conferido", comparacao.programa.count() / 1000, "s");
   relatorio.vLinha("backup de uma empresa: cp do mesmo arquivo, sem conferir", comparacao.referencia.count() / 1000,
                    "s");
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
-  return fenvale::bancada::medir(fenvale::bancada::lerOpcoes(quantos, argumentos));
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+int main(int quantos, char** argumentos) {
+  return fenvale::bancada::executar(quantos, argumentos, fenvale::bancada::medir);
 }

@@ -1,12 +1,9 @@
 // Saving an invoice of 120 titles, down to the disk, against the same rows written by hand.
 
-#include <iostream>
-
 #include "Escritorio.h"
 #include "demo/Plataforma.h"
 #include "gerador/Arquivo.h"
 #include "medida/Medida.h"
-#include "platform/base/Error.h"
 #include "platform/sql/Store.h"
 #include "shell/services/ComandosSQL.h"
 #include "shell/services/Validacoes.h"
@@ -83,8 +80,7 @@ class AMao {
   Comando iniciar_, fatura_, titulo_, concluir_;
 };
 
-int medir(const Opcoes& opcoes) {
-  Relatorio relatorio;
+void medir(const Opcoes& opcoes, Relatorio& relatorio) {
   demonstracao::Anfitriao anfitriao;
   Escritorio escritorio(opcoes.bRapido ? volumePequeno : volumeGrande, anfitriao);
   const Recordset condicao(
@@ -96,15 +92,11 @@ int medir(const Opcoes& opcoes) {
   const Comparacao comparacao = comparar(
       opcoes.bRapido ? 5 : 31, [&] { vSalvarPelaTela(escritorio.programa()); }, [&] { aMao.vSalvar(hoje); });
   relatorio.vLinhas("gravação de fatura de 120 títulos", comparacao, barra);
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
-  return fenvale::bancada::medir(fenvale::bancada::lerOpcoes(quantos, argumentos));
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+int main(int quantos, char** argumentos) {
+  return fenvale::bancada::executar(quantos, argumentos, fenvale::bancada::medir);
 }

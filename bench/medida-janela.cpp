@@ -9,14 +9,12 @@
 #include <QTimer>
 #include <QWidget>
 #include <algorithm>
-#include <array>
 #include <charconv>
 #include <cstdio>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
 #include <memory>
 
+#include "JanelasOcultas.h"
 #include "app/Programa.h"
 #include "app/Registro.h"
 #include "demo/Demonstracao.h"
@@ -26,7 +24,6 @@
 #include "platform/os/System.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/Probe.h"
-#include "platform/ui/qt/QtHost.h"
 #include "shell/screens/Lancador.h"
 #include "shell/services/Telas.h"
 
@@ -39,15 +36,6 @@ using Relogio = std::chrono::steady_clock;
 constexpr std::string_view opcaoFilho = "--filho";
 
 std::int64_t agora() { return Relogio::now().time_since_epoch().count(); }
-
-std::int64_t memoriaMaximaEmKB() {
-  std::ifstream estado("/proc/self/status");
-  for (std::string nome; estado >> nome;) {
-    std::int64_t valor = 0;
-    if (nome == "VmHWM:" && estado >> valor) return valor;
-  }
-  return 0;
-}
 
 /// Screens that open on a question or a message of their own find somebody who presses Enter, and the overview that the
 /// firm wants at the start somebody who closes it.
@@ -77,15 +65,12 @@ void abrirTodas(Programa& programa, qt::QtHost& host) {
 }
 
 /// The measured process. Tells nanoseconds to the usable window and kilobytes at the most.
-int filho(int quantos, char** argumentos) {
+void filho(int quantos, char** argumentos) {
   const std::string sPasta = argumentos[2];
   std::int64_t inicio = 0;
   std::from_chars(argumentos[3], argumentos[3] + std::string_view(argumentos[3]).size(), inicio);
   const QApplication aplicacao(quantos, argumentos);
-  qt::QtHost host({.iconFolder = QString::fromUtf8(FENVALE_SOURCE_DIR "/data/icones"),
-                   .geometryFile = {},
-                   .scheme = {},
-                   .immediate = true});
+  qt::QtHost host(janelasOcultas());
   QTimer alguem;
   QObject::connect(&alguem, &QTimer::timeout, &host, [&host] { responder(host); });
   alguem.start(5);
@@ -123,7 +108,7 @@ Corrida correr(const std::string& sPrograma, const std::string& sPasta) {
   return {static_cast<double>(tempo) / 1e9, static_cast<double>(memoria) / 1024};
 }
 
-int medir(const Opcoes& opcoes) {
+void medir(const Opcoes& opcoes, Relatorio& relatorio) {
   const fs::path programa = fs::read_symlink("/proc/self/exe");
   const fs::path pasta = programa.parent_path() / "dados" / ("janela." + std::to_string(getpid()));
   fs::remove_all(pasta);
@@ -136,22 +121,18 @@ int medir(const Opcoes& opcoes) {
   const auto meio = corridas.begin() + static_cast<std::ptrdiff_t>(corridas.size() / 2);
   std::nth_element(corridas.begin(), meio, corridas.end(),
                    [](const Corrida& a, const Corrida& b) { return a.segundos < b.segundos; });
-  Relatorio relatorio;
   relatorio.vLinha("do início à janela principal com empresa aberta", meio->segundos, "s", 1);
   const auto maior = std::max_element(corridas.begin(), corridas.end(),
                                       [](const Corrida& a, const Corrida& b) { return a.megabytes < b.megabytes; });
   relatorio.vLinha("memória depois de abrir todas as telas", maior->megabytes, "MB", 200);
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
+int main(int quantos, char** argumentos) {
   using namespace fenvale::bancada;
-  if (quantos == 4 && std::string_view(argumentos[1]) == opcaoFilho) return filho(quantos, argumentos);
-  return medir(lerOpcoes(quantos, argumentos));
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+  if (quantos == 4 && std::string_view(argumentos[1]) == opcaoFilho)
+    return semFalha(argumentos[0], [&] { filho(quantos, argumentos); });
+  return executar(quantos, argumentos, medir);
 }

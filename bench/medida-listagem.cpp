@@ -12,8 +12,6 @@
 #include <array>
 #include <cstdlib>
 #include <filesystem>
-#include <fstream>
-#include <iostream>
 #include <memory>
 
 #include "app/Programa.h"
@@ -124,15 +122,6 @@ void vGerarPeloQt(const std::string& sTexto, const std::string& sArquivo) {
   }
 }
 
-double memoriaMaximaEmKB() {
-  std::ifstream estado("/proc/self/status");
-  for (std::string nome; estado >> nome;) {
-    double valor = 0;
-    if (nome == "VmHWM:" && estado >> valor) return valor;
-  }
-  return 0;
-}
-
 /// The most memory that a process of its own has taken after each of two tasks, in megabytes.
 struct Picos {
   double primeiro = 0;
@@ -146,9 +135,9 @@ Picos picos(const std::function<void()>& primeira, const std::function<void()>& 
   if (filho == 0) {
     Picos ditos;
     primeira();
-    ditos.primeiro = memoriaMaximaEmKB() / 1024;
+    ditos.primeiro = static_cast<double>(memoriaMaximaEmKB()) / 1024;
     segunda();
-    ditos.segundo = memoriaMaximaEmKB() / 1024;
+    ditos.segundo = static_cast<double>(memoriaMaximaEmKB()) / 1024;
     ::_exit(::write(cano[1], &ditos, sizeof ditos) == sizeof ditos ? 0 : 1);
   }
   ::close(cano[1]);
@@ -162,7 +151,7 @@ Picos picos(const std::function<void()>& primeira, const std::function<void()>& 
 
 double segundos(const Duracao& duracao) { return std::chrono::duration<double>(duracao).count(); }
 
-int medir(const Opcoes& opcoes, int quantos, char** argumentos) {
+void medir(const Opcoes& opcoes, Relatorio& relatorio, int quantos, char** argumentos) {
   const fs::path pasta =
       fs::read_symlink("/proc/self/exe").parent_path() / "dados" / ("listagem." + std::to_string(::getpid()));
   fs::create_directories(pasta);
@@ -196,7 +185,6 @@ int medir(const Opcoes& opcoes, int quantos, char** argumentos) {
   const Duracao qt = mediana(vezesDosOutros, [&] { vGerarPeloQt(lugar("lista.txt"), lugar("q.pdf")); });
   fs::remove_all(pasta);
 
-  Relatorio relatorio;
   relatorio.vLinha("listagem de " + sQuantas + " para texto", segundos(paraTexto), "s", 0.3);
   relatorio.vLinha("texto de " + sQuantas + " para PDF", segundos(paraPDF), "s", 1);
   relatorio.vLinha("o mesmo texto pelo enscript com ps2pdf", segundos(enscript), "s");
@@ -204,16 +192,13 @@ int medir(const Opcoes& opcoes, int quantos, char** argumentos) {
   relatorio.vLinha("memória do texto acima da de " + sDecimo, listas.segundo - listas.primeiro, "MB", 1);
   relatorio.vLinha("memória do PDF acima da de " + sDecimo, pdfs.segundo - pdfs.primeiro, "MB", 1);
   relatorio.vLinha("pico de memória do processo que faz o PDF", pdfs.segundo, "MB");
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
+int main(int quantos, char** argumentos) {
   using namespace fenvale::bancada;
-  return medir(lerOpcoes(quantos, argumentos), quantos, argumentos);
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+  return executar(quantos, argumentos,
+                  [&](const Opcoes& opcoes, Relatorio& relatorio) { medir(opcoes, relatorio, quantos, argumentos); });
 }

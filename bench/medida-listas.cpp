@@ -1,14 +1,12 @@
 // Pages of the lists of customers and of titles, against the same pages by statements written by hand.
 
 #include <cstdint>
-#include <iostream>
 
 #include "Consultas.h"
 #include "gerador/Arquivo.h"
 #include "medida/Acervo.h"
 #include "medida/Medida.h"
 #include "platform/base/Error.h"
-#include "platform/base/Format.h"
 #include "platform/sql/Store.h"
 
 namespace fenvale::bancada {
@@ -73,20 +71,9 @@ class AMao {
 
   Linha linha(std::int64_t chave) {
     linha_.ligar(chave).proximo();
-    Linha linha;
-    linha.reserve(formas_.size());
-    for (int coluna = 0; coluna < static_cast<int>(formas_.size()); ++coluna) linha.push_back(sTexto(coluna));
+    Linha linha = linhaMostrada(linha_, formas_);
     linha_.encerrar();
     return linha;
-  }
-
-  std::string sTexto(int coluna) const {
-    const char forma = formas_[static_cast<std::size_t>(coluna)];
-    if (forma == 'm') return formatNumber(Currency::fromUnits(linha_.inteiro(coluna)));
-    const std::string_view texto = linha_.texto(coluna);
-    if (forma == 't' || texto.empty()) return std::string(texto);
-    return std::string(texto.substr(8, 2)) + "/" + std::string(texto.substr(5, 2)) + "/" +
-           std::string(texto.substr(0, 4));
   }
 
   std::string formas_;
@@ -144,8 +131,7 @@ class Listas {
   Arquivo arquivo_;
 };
 
-int medir(const Opcoes& opcoes) {
-  Relatorio relatorio;
+void medir(const Opcoes& opcoes, Relatorio& relatorio) {
   const Volume volume = opcoes.bRapido ? volumePequeno : volumeGrande;
   Listas grande(relatorio, volume);
   const Consulta clientes = consultaClientes();
@@ -169,15 +155,11 @@ int medir(const Opcoes& opcoes) {
                    comMilhao / comDezMil, "vezes", 2);
   relatorio.vLinha("títulos abertos: primeira página de " + std::to_string(volumePequeno.titulos) + " títulos",
                    comDezMil.count(), "ms");
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
-  return fenvale::bancada::medir(fenvale::bancada::lerOpcoes(quantos, argumentos));
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+int main(int quantos, char** argumentos) {
+  return fenvale::bancada::executar(quantos, argumentos, fenvale::bancada::medir);
 }

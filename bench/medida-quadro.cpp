@@ -6,8 +6,9 @@
 #include <QApplication>
 #include <algorithm>
 #include <filesystem>
-#include <iostream>
 
+#include "Consultas.h"
+#include "JanelasOcultas.h"
 #include "app/Programa.h"
 #include "app/Registro.h"
 #include "demo/Demonstracao.h"
@@ -22,7 +23,6 @@
 #include "platform/os/System.h"
 #include "platform/sql/Store.h"
 #include "platform/ui/qt/Probe.h"
-#include "platform/ui/qt/QtHost.h"
 #include "shell/services/Telas.h"
 #include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"
@@ -54,26 +54,11 @@ class AMao {
   Linhas linhas(const std::string& sHoje) {
     Linhas linhas;
     comando_.ligar(sHoje);
-    while (comando_.proximo()) {
-      auto& linha = linhas.emplace_back();
-      linha.reserve(sFormas.size());
-      for (int coluna = 0; coluna < static_cast<int>(sFormas.size()); ++coluna) linha.push_back(sTexto(coluna));
-    }
+    while (comando_.proximo()) linhas.push_back(linhaMostrada(comando_, "tddttttmmttt"));
     return linhas;
   }
 
  private:
-  static constexpr std::string_view sFormas = "tddttttmmttt";  // as it is, a date, money
-
-  std::string sTexto(int coluna) const {
-    const char forma = sFormas[static_cast<std::size_t>(coluna)];
-    if (forma == 'm') return formatNumber(Currency::fromUnits(comando_.inteiro(coluna)));
-    const std::string_view texto = comando_.texto(coluna);
-    if (forma == 't') return std::string(texto);
-    return std::string(texto.substr(8, 2)) + "/" + std::string(texto.substr(5, 2)) + "/" +
-           std::string(texto.substr(0, 4));
-  }
-
   Comando comando_;
 };
 
@@ -110,10 +95,7 @@ class Bancada {
     return quadro;
   }
 
-  qt::QtHost host{{.iconFolder = QString::fromUtf8(FENVALE_SOURCE_DIR "/data/icones"),
-                   .geometryFile = {},
-                   .scheme = {},
-                   .immediate = true}};
+  qt::QtHost host{janelasOcultas()};
 
  private:
   RelogioFixo relogio_;
@@ -125,12 +107,6 @@ class Bancada {
  public:
   Programa programa;
 };
-
-Duracao tempoDe(const std::function<void()>& tarefa) {
-  const auto inicio = std::chrono::steady_clock::now();
-  tarefa();
-  return std::chrono::steady_clock::now() - inicio;
-}
 
 void medirLinhas(Relatorio& relatorio, Bancada& bancada, const std::string& sEmpresa, std::uint32_t vencidos) {
   Arquivo arquivo(sEmpresa);
@@ -151,13 +127,12 @@ void medirLinhas(Relatorio& relatorio, Bancada& bancada, const std::string& sEmp
 void medirJanela(Relatorio& relatorio, Bancada& bancada, const std::string& sEmpresa, int vezes) {
   std::vector<Duracao> aberturas;
   for (int i = 0; i < vezes; ++i) {
-    aberturas.push_back(tempoDe([&] { bancada.abrir(); }));
+    aberturas.push_back(cronometrar([&] { bancada.abrir(); }));
     bancada.programa.telas().obter("frmMostrarContas").unload();
     bancada.host.doEvents();
   }
   relatorio.vLinha("quadro: primeira abertura", aberturas.front().count(), "ms", barraAbertura);
-  std::sort(aberturas.begin(), aberturas.end());
-  relatorio.vLinha("quadro: abertura", aberturas[aberturas.size() / 2].count(), "ms", barraAbertura);
+  relatorio.vLinha("quadro: abertura", meio(aberturas).count(), "ms", barraAbertura);
 
   frmMostrarContas& quadro = bancada.abrir();
   const std::int64_t soma =
@@ -168,16 +143,14 @@ void medirJanela(Relatorio& relatorio, Bancada& bancada, const std::string& sEmp
 
   std::vector<Duracao> passos;
   for (const int iTecla : {Qt::Key_PageDown, Qt::Key_Down})
-    for (int i = 0; i < 200; ++i) passos.push_back(tempoDe([&] { qt::press(bancada.host, iTecla); }));
-  std::sort(passos.begin(), passos.end());
-  relatorio.vLinha("quadro: um passo na lista", passos[passos.size() / 2].count(), "ms", barraPasso);
-  relatorio.vLinha("quadro: o passo mais lento de " + std::to_string(passos.size()), passos.back().count(), "ms");
+    for (int i = 0; i < 200; ++i) passos.push_back(cronometrar([&] { qt::press(bancada.host, iTecla); }));
+  relatorio.vLinha("quadro: um passo na lista", meio(passos).count(), "ms", barraPasso);
+  relatorio.vLinha("quadro: o passo mais lento de " + std::to_string(passos.size()), std::ranges::max(passos).count(),
+                   "ms");
   quadro.unload();
 }
 
-int medir(int quantos, char** argumentos, const Opcoes& opcoes) {
-  qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication aplicacao(quantos, argumentos);
+void medir(const Opcoes& opcoes, Relatorio& relatorio) {
   const Volume volume = opcoes.bRapido ? volumePequeno : volumeGrande;
   const std::uint32_t vencidos = volume.titulos / 25;
   const std::string sEmpresa = sEmpresaGerada(volume, vencidos);
@@ -186,21 +159,21 @@ int medir(int quantos, char** argumentos, const Opcoes& opcoes) {
   SystemProcess processo;
   demonstracao::preencher({pasta, std::string(FENVALE_SOURCE_DIR) + "/data", RelogioFixo().today(), processo});
   {
-    Relatorio relatorio;
     Bancada bancada(pasta, sEmpresa);
     medirJanela(relatorio, bancada, sEmpresa, opcoes.bRapido ? 1 : 7);
     medirLinhas(relatorio, bancada, sEmpresa, vencidos);
   }
   fs::remove_all(pasta);
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
-  return fenvale::bancada::medir(quantos, argumentos, fenvale::bancada::lerOpcoes(quantos, argumentos));
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+int main(int quantos, char** argumentos) {
+  using namespace fenvale::bancada;
+  return executar(quantos, argumentos, [&](const Opcoes& opcoes, Relatorio& relatorio) {
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication aplicacao(quantos, argumentos);
+    medir(opcoes, relatorio);
+  });
 }

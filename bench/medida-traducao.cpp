@@ -1,12 +1,10 @@
 // How long a statement's way from text to a prepared shape takes, for shapes that were seen before and for new ones.
 
 #include <algorithm>
-#include <iostream>
 
 #include "Consultas.h"
 #include "medida/Acervo.h"
 #include "medida/Medida.h"
-#include "platform/base/Error.h"
 #include "platform/sql/sqlite/Definitions.h"
 #include "platform/sql/sqlite/Translation.h"
 
@@ -67,21 +65,15 @@ class Traducao {
   TranslationCache memoria_;
 };
 
-int medir() {
-  Relatorio relatorio;
+void medir(const Opcoes&, Relatorio& relatorio) {
   Traducao traducao(sEmpresaGerada(volumePequeno));
   relatorio.vLinha("tradução de forma conhecida", traducao.microssegundos(false), "µs", 20);
   relatorio.vLinha("tradução de forma nova", traducao.microssegundos(true), "µs", 150);
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
-  fenvale::bancada::lerOpcoes(quantos, argumentos);
-  return fenvale::bancada::medir();
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+int main(int quantos, char** argumentos) {
+  return fenvale::bancada::executar(quantos, argumentos, fenvale::bancada::medir);
 }

@@ -6,23 +6,20 @@
 #include <QKeyEvent>
 #include <QTimer>
 #include <QWidget>
-#include <algorithm>
 #include <array>
 #include <iostream>
 
 #include "Escritorio.h"
+#include "JanelasOcultas.h"
 #include "app/Registro.h"
 #include "medida/Medida.h"
 #include "platform/base/Error.h"
 #include "platform/base/Format.h"
-#include "platform/ui/qt/QtHost.h"
 #include "shell/services/Telas.h"
 #include "titles/screens/frmZerarTitulos.h"
 
 namespace fenvale::bancada {
 namespace {
-
-using Instante = std::chrono::steady_clock::time_point;
 
 /// What is left: invoices and titles of both sides.
 using Restos = std::array<std::int64_t, 4>;
@@ -80,13 +77,6 @@ class Zeramento {
   }
 
  private:
-  template <typename Tarefa>
-  static Duracao cronometrar(const Tarefa& tarefa) {
-    const Instante inicio = std::chrono::steady_clock::now();
-    tarefa();
-    return std::chrono::steady_clock::now() - inicio;
-  }
-
   void vApagar(Arquivo& arquivo, const std::string& sTitulos, const std::string& sCampo,
                const std::string& sFaturas) const {
     const std::string sInicial = formatDate(dtInicial_, "yyyy-mm-dd"), sFinal = formatDate(dtFinal_, "yyyy-mm-dd");
@@ -103,12 +93,6 @@ class Zeramento {
   qt::QtHost& host_;
 };
 
-Duracao meio(std::vector<Duracao> tempos) {
-  const auto lugar = tempos.begin() + static_cast<std::ptrdiff_t>(tempos.size() / 2);
-  std::nth_element(tempos.begin(), lugar, tempos.end());
-  return *lugar;
-}
-
 void vMedir(Relatorio& relatorio, const std::string& sNome, Zeramento zeramento, int vezes) {
   std::vector<Duracao> doPrograma, daReferencia;
   for (int vez = 0; vez < vezes; ++vez) {
@@ -124,32 +108,26 @@ void vMedir(Relatorio& relatorio, const std::string& sNome, Zeramento zeramento,
   relatorio.vLinha(sNome + ": razão para a mão", comparacao.razao(), "vezes");
 }
 
-int medir(const Opcoes& opcoes) {
-  qt::QtHost host({.iconFolder = QString::fromUtf8(FENVALE_SOURCE_DIR "/data/icones"),
-                   .geometryFile = {},
-                   .scheme = {},
-                   .immediate = true});
+void medir(const Opcoes& opcoes, Relatorio& relatorio) {
+  qt::QtHost host(janelasOcultas());
   QTimer alguem;
   QObject::connect(&alguem, &QTimer::timeout, &host, [&host] { responder(host); });
   alguem.start(1);
   const Volume& volume = opcoes.bRapido ? volumePequeno : volumeGrande;
   const Date hoje = RelogioFixo().today();
   const int vezes = opcoes.bRapido ? 1 : 3;
-  Relatorio relatorio;
   vMedir(relatorio, "zeramento do primeiro ano", {volume, hoje - std::chrono::days(365), host}, vezes);
   vMedir(relatorio, "zeramento de tudo o que foi pago", {volume, hoje, host}, vezes);
-  return 0;
 }
 
 }  // namespace
 }  // namespace fenvale::bancada
 
-int main(int quantos, char** argumentos) try {
-  const fenvale::bancada::Opcoes opcoes = fenvale::bancada::lerOpcoes(quantos, argumentos);
-  if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
-  const QApplication aplicacao(quantos, argumentos);
-  return fenvale::bancada::medir(opcoes);
-} catch (const fenvale::Error& falha) {
-  std::cerr << argumentos[0] << ": " << falha.description << "\n";
-  return 1;
+int main(int quantos, char** argumentos) {
+  using namespace fenvale::bancada;
+  return executar(quantos, argumentos, [&](const Opcoes& opcoes, Relatorio& relatorio) {
+    if (!qEnvironmentVariableIsSet("QT_QPA_PLATFORM")) qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication aplicacao(quantos, argumentos);
+    medir(opcoes, relatorio);
+  });
 }

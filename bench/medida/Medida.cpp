@@ -3,12 +3,13 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cstdlib>
+#include <fstream>
 #include <iostream>
 #include <string_view>
 
+#include "platform/base/Error.h"
+
 namespace fenvale::bancada {
-namespace {
 
 Duracao cronometrar(const std::function<void()>& tarefa) {
   const auto inicio = std::chrono::steady_clock::now();
@@ -21,8 +22,6 @@ Duracao meio(std::vector<Duracao> tempos) {
   std::nth_element(tempos.begin(), lugar, tempos.end());
   return *lugar;
 }
-
-}  // namespace
 
 Duracao mediana(int vezes, const std::function<void()>& tarefa) {
   tarefa();
@@ -43,6 +42,15 @@ Comparacao comparar(int vezes, const std::function<void()>& programa, const std:
   return {meio(std::move(doPrograma)), meio(std::move(daReferencia))};
 }
 
+std::int64_t memoriaMaximaEmKB() {
+  std::ifstream estado("/proc/self/status");
+  for (std::string nome; estado >> nome;) {
+    std::int64_t valor = 0;
+    if (nome == "VmHWM:" && estado >> valor) return valor;
+  }
+  return 0;
+}
+
 std::string sNumero(double valor) {
   const int casas = valor >= 100 ? 0 : valor >= 10 ? 1 : valor >= 1 ? 2 : 4;
   std::array<char, 64> texto{};
@@ -54,7 +62,6 @@ std::string sNumero(double valor) {
 }
 
 void Relatorio::vLinha(const std::string& sNome, double valor, const std::string& sUnidade, double barra) {
-  if (valor > barra) ++iPerdidas_;
   vEscrever(sNome, valor, sUnidade, sNumero(barra));
 }
 
@@ -73,16 +80,27 @@ void Relatorio::vEscrever(const std::string& sNome, double valor, const std::str
   std::cout << sNome << '\t' << sNumero(valor) << '\t' << sUnidade << '\t' << sBarra << std::endl;
 }
 
-Opcoes lerOpcoes(int quantos, char** argumentos) {
+int semFalha(const char* programa, const std::function<void()>& tarefa) try {
+  tarefa();
+  return 0;
+} catch (const Error& falha) {
+  std::cerr << programa << ": " << falha.description << "\n";
+  return 1;
+}
+
+int executar(int quantos, char** argumentos, const std::function<void(const Opcoes&, Relatorio&)>& medir) {
   Opcoes opcoes;
   for (int i = 1; i < quantos; ++i) {
     if (std::string_view(argumentos[i]) != "--rapido") {
       std::cerr << "Uso: " << argumentos[0] << " [--rapido]\n";
-      std::exit(2);
+      return 2;
     }
     opcoes.bRapido = true;
   }
-  return opcoes;
+  return semFalha(argumentos[0], [&] {
+    Relatorio relatorio;
+    medir(opcoes, relatorio);
+  });
 }
 
 }  // namespace fenvale::bancada

@@ -2,6 +2,7 @@
 // What the measuring programs share: medians of interleaved runs, and lines of name, figure, unit and bar.
 
 #include <chrono>
+#include <cstdint>
 #include <functional>
 #include <string>
 #include <vector>
@@ -9,6 +10,10 @@
 namespace fenvale::bancada {
 
 using Duracao = std::chrono::duration<double, std::milli>;
+
+Duracao cronometrar(const std::function<void()>& tarefa);
+/// The middle one.
+Duracao meio(std::vector<Duracao> tempos);
 
 /// The middle one of the runs; the first run, which fills the caches, is not counted.
 Duracao mediana(int vezes, const std::function<void()>& tarefa);
@@ -21,7 +26,10 @@ struct Comparacao {
 };
 Comparacao comparar(int vezes, const std::function<void()>& programa, const std::function<void()>& referencia);
 
-/// Lines of the output. Keeps count of the bars that were missed.
+/// The most memory that this process has taken so far.
+std::int64_t memoriaMaximaEmKB();
+
+/// Lines of the output.
 class Relatorio {
  public:
   /// name<TAB>figure<TAB>unit<TAB>bar. The figure should not be above the bar.
@@ -31,11 +39,8 @@ class Relatorio {
   /// The ratio with its bar, and below it the two times that it comes from.
   void vLinhas(const std::string& sNome, const Comparacao& comparacao, double barra);
 
-  int iPerdidas() const { return iPerdidas_; }
-
  private:
   void vEscrever(const std::string& sNome, double valor, const std::string& sUnidade, const std::string& sBarra);
-  int iPerdidas_ = 0;
 };
 
 /// A real with three significant digits at least and no idle zeros, always with a point.
@@ -45,7 +50,10 @@ std::string sNumero(double valor);
 struct Opcoes {
   bool bRapido = false;
 };
-/// Ends the process with 2 for anything else.
-Opcoes lerOpcoes(int quantos, char** argumentos);
+/// What main() of a measuring program does: reads the options and measures. Answers what the process ends with: 2 for
+/// an unknown option and 1 for an Error, both with a line on standard error.
+int executar(int quantos, char** argumentos, const std::function<void(const Opcoes&, Relatorio&)>& medir);
+/// The same for a task that takes no options.
+int semFalha(const char* programa, const std::function<void()>& tarefa);
 
 }  // namespace fenvale::bancada
