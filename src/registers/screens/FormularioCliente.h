@@ -9,7 +9,7 @@ class FormularioCliente : public FormularioPessoa, public ReceptorVendedor {
  public:
   TextBox txtBairro{tela_, "txtBairro", 50};
   LookupBox txtVendedor{tela_, "txtVendedor"};
-  TextBox txtRG{tela_, "txtRG", 20};
+  TextBox txtRG{tela_, "txtRG", 255};
   TextBox txtPai{tela_, "txtPai", 50};
   TextBox txtMae{tela_, "txtMae", 50};
   TextBox txtEnderecoEntrega{tela_, "txtEnderecoEntrega", 100};

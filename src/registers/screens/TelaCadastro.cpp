@@ -199,7 +199,7 @@ void TelaCadastro::vClicarLinha(const std::shared_ptr<ListItem>& item) try {
   vEsquecerBotaoDoMouse();
   if (bDireito && menuTitulos_) menuTitulos_->vAbrir();
 } catch (const Error& falha) {
-  vRegistrarFalha(falha, "lstLista_itemClick", iContinuar);
+  if (falha.number != errors::objectNotSet) vRegistrarFalha(falha, "lstLista_itemClick", iContinuar);
 }
 
 }  // namespace fenvale

@@ -5,6 +5,27 @@
 #include "store/services/DBConectar.h"
 
 namespace fenvale {
+namespace {
+
+std::string sLimite(const Control& controle) {
+  if (const auto* codigo = dynamic_cast<const CodeBox*>(&controle)) return " <= " + std::to_string(codigo->maximum());
+  if (const auto* numero = dynamic_cast<const NumberBox*>(&controle)) return " <= " + std::to_string(numero->maximum());
+  if (const auto* mascara = dynamic_cast<const MaskBox*>(&controle)) return " " + mascara->mask();
+  const auto* texto = dynamic_cast<const TextBox*>(&controle);
+  return texto == nullptr || texto->maxLength() == 0 ? "" : " " + std::to_string(texto->maxLength());
+}
+
+void descrever(const LayoutNode& no, std::vector<std::string>& textos) {
+  if (no.kind == LayoutNode::Kind::tab) textos.push_back("[" + no.caption + "]");
+  if (no.kind == LayoutNode::Kind::field) {
+    std::string sTexto = replaceAll(no.caption, "&", "") + ": " + no.control->name() + sLimite(*no.control);
+    for (const Control* botao : no.beside) sTexto += " + " + botao->name();
+    textos.push_back(sTexto);
+  }
+  for (const LayoutNode& filho : no.children) descrever(filho, textos);
+}
+
+}  // namespace
 
 Cadastros::Cadastros() : programa(vRegistrarTelasDosCadastros), host(programa.hostDeTeste()) {
   programa.abrirEmpresa();
@@ -57,6 +78,23 @@ std::vector<std::string> Cadastros::listados(ListView& lst) {
     textos.push_back(sLinha);
   }
   return textos;
+}
+
+std::vector<std::string> Cadastros::formularioDe(const Screen& tela) {
+  std::vector<std::string> textos;
+  descrever(tela.layout(), textos);
+  return textos;
+}
+
+std::vector<std::string> Cadastros::cabecalhos(const ListView& lst) {
+  std::vector<std::string> textos;
+  for (const ListColumn& coluna : lst.columns()) textos.push_back(coluna.heading);
+  return textos;
+}
+
+std::string Cadastros::relato() {
+  const PastaTemporaria& pasta = programa.pasta();
+  return pasta.existe("Erros") ? fromWindows1252(pasta.ler("Erros/" + pasta.nomes("Erros").back())) : "";
 }
 
 void Cadastros::entrarSem(const std::string& sDireito) {

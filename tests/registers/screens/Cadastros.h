@@ -43,6 +43,13 @@ class Cadastros : public testing::Test {
   /// Rows of the screen's list, the cells joined by "|".
   static std::vector<std::string> listados(ListView& lst);
 
+  /// The form as it is declared: "[caption]" of every tab, and for each field its label, name and limit (a text's
+  /// length, a code's highest number, a mask), with the buttons beside it.
+  static std::vector<std::string> formularioDe(const Screen& tela);
+  static std::vector<std::string> cabecalhos(const ListView& lst);
+  /// What the last failure report tells; empty when there is none.
+  std::string relato();
+
   void tamanhoDaPagina(std::int32_t lTamanho) { programa.configuracoes().vSetTamanhoPagina(lTamanho); }
   /// Signs in a user who has all rights but one ("bPoderExcluir").
   void entrarSem(const std::string& sDireito);

@@ -103,6 +103,40 @@ TEST_P(TelaDeBusca, SearchesOnceAtItsOpeningAndLeavesTheRegisterAsFound) {
   EXPECT_EQ(tela.state(), Screen::State::loaded);
 }
 
+TEST_P(TelaDeBusca, AsksItsCallerForTheFirstPageOnceAndIsBusyMeanwhile) {
+  struct Dirigida : Screen, TelaComLista {
+    explicit Dirigida(UiHost& quem) : Screen(quem, "frmDirigida") {}
+    void vMontarLista(std::int16_t iInicio, const std::string& sWhere) override {
+      pedidas.push_back(std::to_string(iInicio) + "|" + sWhere);
+      aoListar();
+    }
+    std::vector<std::string> pedidas;
+    std::function<void()> aoListar;
+  } dirigida(host);
+  dirigida.aoListar = [&] { EXPECT_FALSE(botao(programa.telas().obter(GetParam().sBusca), "cmdLocalizar").enabled()); };
+  std::string sTudo;
+  for (int vez = 0; vez < 2; ++vez) {
+    dirigida.pedidas.clear();
+    host.expectScreen(GetParam().sBusca, [&](Screen& aberta) {
+      auto& busca = dynamic_cast<TelaBuscaCompleta&>(aberta);
+      if (vez == 0) sTudo = busca.sClausula();
+      EXPECT_EQ(busca.sClausula(), sTudo) << "every opening begins with empty boxes";
+      EXPECT_THAT(dirigida.pedidas, ElementsAre("0|" + sTudo));
+      caixa(busca, "txtCodigoInf").userType("7");
+      busca.cmdLocalizar.setFocus();
+      busca.userKey(Key::f6);
+      EXPECT_THAT(dirigida.pedidas, ElementsAre("0|" + sTudo, "0|" + busca.sClausula()));
+      EXPECT_NE(busca.sClausula(), sTudo);
+      EXPECT_TRUE(busca.cmdLocalizar.enabled());
+      EXPECT_TRUE(busca.cmdLocalizar.hasFocus());
+      EXPECT_TRUE(busca.userKey(Key::enter));
+      EXPECT_FALSE(busca.cmdLocalizar.hasFocus()) << "Enter goes on";
+      busca.unload();
+    });
+    programa.telas().obter<TelaBusca>(GetParam().sBusca).vLocalizar(dirigida);
+  }
+}
+
 TEST_P(TelaDeBusca, WithoutTheRightItDoesNothing) {
   auto& tela = abrirCadastro(GetParam().sCadastro);
   host.expectScreen(GetParam().sBusca, [&](Screen& busca) {
@@ -170,6 +204,17 @@ TEST_F(Cadastros, TheSearchOfSuppliersHasALineForEveryBoxInItsOrder) {
   EXPECT_THAT(busca.sClausula(), testing::Not(testing::HasSubstr("lBanco")));
 }
 
+TEST_F(Cadastros, TheSearchOfSuppliersHasTheBoxesOfTheirRegister) {
+  EXPECT_THAT(formularioDe(abrir("frmLocalizarFornecedores")),
+              ElementsAre("Código: txtCodigoInf <= 2147483647", "Categoria: txtCategoria + cmdBuscarCategoria",
+                          "Nome: txtNome 50", "Endereço: txtEndereco 255", "Cidade: txtCidade + cmdBuscarCidade",
+                          "UF: txtUF", "CEP: txtCEP 00000-000", "Telefone: txtTelefone (00) 0000-00009",
+                          "Fax: txtFax (00) 0000-00009", "Contato: txtContato 50", "CPF: txtCPF 000.000.000-00",
+                          "IE: txtIE AAAAAAAAAAAAAA", "CNPJ: txtCNPJ AA.AAA.AAA/AAAA-00", "e-Mail: txtEMail 50",
+                          "Home Page: txtHomePage 50", "Observação: txtObs", "Banco: txtBanco + cmdBuscarBancos",
+                          "Agência: txtAgencia 6", "Conta: txtConta 15"));
+}
+
 class BuscaDeClientes : public Cadastros {
  protected:
   frmLocalizarClientes& abrirBusca() { return dynamic_cast<frmLocalizarClientes&>(abrir("frmLocalizarClientes")); }
@@ -215,8 +260,75 @@ TEST_F(BuscaDeClientes, TheClauseHasALineForEveryBoxInItsOrder) {
   EXPECT_THAT(tela.lstLista.items(), IsEmpty());
 }
 
+TEST_F(BuscaDeClientes, HasTheBoxesOfTheRegisterInTheSamePlaces) {
+  EXPECT_THAT(
+      formularioDe(abrirBusca()),
+      ElementsAre("[Dados gerais]", "Código: txtCodigoInf <= 2147483647",
+                  "Categoria: txtCategoria + cmdBuscarCategoria", "Nome: txtNome 50", "Endereço: txtEndereco 100",
+                  "Bairro: txtBairro 50", "Cidade: txtCidade + cmdBuscarCidade", "UF: txtUF", "CEP: txtCEP 00000-000",
+                  "Telefone: txtTelefone (00) 0000-00009", "Fax: txtFax (00) 0000-00009", "Contato: txtContato 50",
+                  "Vendedor: txtVendedor + cmdBuscarVendedor", "RG: txtRG 255", "CPF: txtCPF 000.000.000-00",
+                  "IE: txtIE AAAAAAAAAAAAAA", "CNPJ: txtCNPJ AA.AAA.AAA/AAAA-00", "De: dtNascimentoInicial",
+                  "Até: dtNascimentoFinal", "e-Mail: txtEMail 50", "Home Page: txtHomePage 50", "Observação: txtObs",
+                  "[Filiação]", "Nome do pai: txtPai 50", "Nome da mãe: txtMae 50", "[Local de entrega]",
+                  "Endereço: txtEnderecoEntrega 100", "Bairro: txtBairroEntrega 50",
+                  "Cidade: txtCidadeEntrega + cmdBuscaCidadeEntrega", "UF: txtUFEntrega",
+                  "CEP: txtCEPEntrega 00000-000", "[Local de cobrança]", "Endereço: txtEnderecoCobranca 100",
+                  "Bairro: txtBairroCobranca 50", "Cidade: txtCidadeCobranca + cmdBuscaCidadeCobranca",
+                  "UF: txtUFCobranca", "CEP: txtCEPCobranca 00000-000"));
+}
+
+TEST_F(BuscaDeClientes, DeleteOnAnyOfItsPickedBoxesDropsItsLine) {
+  auto& busca = abrirBusca();
+  const std::string sTudo = busca.sClausula();
+  cidade("Campinas", "SP");
+  struct Caso {
+    std::function<void()> escolher;
+    std::vector<TextControl*> caixas;
+    const char* sCampo;
+  };
+  for (const Caso& caso : {Caso{[&] { busca.vSetVendedor(6, "Maria"); }, {&busca.txtVendedor}, "AND lVendedor = 6 "},
+                           Caso{[&] { busca.cidadeEntrega.vSetEstado2("Campinas", "SP"); },
+                                {&busca.cidadeEntrega.txtCidade, &busca.cidadeEntrega.txtUF},
+                                "AND lCidadeEntrega = "},
+                           Caso{[&] { busca.cidadeCobranca.vSetEstado2("Campinas", "SP"); },
+                                {&busca.cidadeCobranca.txtCidade, &busca.cidadeCobranca.txtUF},
+                                "AND lCidadeCobranca = "}})
+    for (TextControl* picada : caso.caixas) {
+      caso.escolher();
+      EXPECT_THAT(busca.sClausula(), testing::StartsWith(sTudo + caso.sCampo));
+      picada->setFocus();
+      busca.userKey(Key::insert);
+      EXPECT_NE(busca.sClausula(), sTudo) << "a search registers nothing";
+      busca.userKey(Key::del);
+      EXPECT_EQ(busca.sClausula(), sTudo);
+      EXPECT_EQ(picada->text(), "");
+      EXPECT_TRUE(picada->hasFocus());
+    }
+}
+
+TEST_F(BuscaDeClientes, TheMagnifiersOpenTheQuickSearches) {
+  const auto lCategoria = inserir("Categorias", "btCodigoInf, sNome", "3, 'Atacado'");
+  vendedores(1);
+  auto& busca = abrirBusca();
+  const auto escolherAPrimeira = [](Screen& aberta) {
+    auto& lst = dynamic_cast<ListView&>(*aberta.control("lstLista"));
+    lst.userClickRow(0);
+    lst.userClickRow(0);
+  };
+  host.expectScreen("frmLocalizarCategoriasRapido", escolherAPrimeira);
+  botao(busca, "cmdBuscarCategoria").userClick();
+  host.expectScreen("frmLocalizarVendedoresRapido", escolherAPrimeira);
+  botao(busca, "cmdBuscarVendedor").userClick();
+  EXPECT_EQ(busca.txtCategoria.text() + "|" + busca.txtVendedor.text(), "Atacado|Vendedor 001");
+  EXPECT_THAT(busca.sClausula(),
+              testing::EndsWith("AND lCategoria = " + std::to_string(lCategoria) + " AND lVendedor = 1 "));
+}
+
 TEST_F(BuscaDeClientes, TheBirthdaysAreChosenOnlyWithTheirTick) {
   auto& busca = abrirBusca();
+  EXPECT_EQ(busca.dtNascimentoInicial.value(), programa.relogio().today());
+  EXPECT_EQ(busca.dtNascimentoFinal.value(), programa.relogio().today());
   EXPECT_FALSE(busca.dtNascimentoInicial.enabled());
   EXPECT_FALSE(busca.dtNascimentoFinal.enabled());
   busca.chkNascimento.userClick();
@@ -224,6 +336,7 @@ TEST_F(BuscaDeClientes, TheBirthdaysAreChosenOnlyWithTheirTick) {
   EXPECT_TRUE(busca.dtNascimentoFinal.enabled());
   busca.chkNascimento.userClick();
   EXPECT_FALSE(busca.dtNascimentoInicial.enabled());
+  EXPECT_FALSE(busca.dtNascimentoFinal.enabled());
   EXPECT_EQ(busca.sClausula(), "WHERE MID(Clientes.sNome, 1, 0) = '' ");
 }
 
@@ -330,6 +443,24 @@ TEST_P(BuscaRapida, TwoClicksOnTheSameRowPickIt) {
   EXPECT_EQ(chamadora.recebido, std::string(caso.sQue) + "|" + std::to_string(lBruno) + "|Bruno");
 }
 
+TEST_P(BuscaRapida, HasOneBoxTwoColumnsAndWidthsOfItsOwn) {
+  const std::string sRotulo = std::string(caso.sTexto) == "sDescricao" ? "Descrição" : "Nome";
+  localizar([&](TelaBuscaRapida& busca) {
+    EXPECT_EQ(busca.title(), caso.sLegenda);
+    EXPECT_THAT(formularioDe(busca), ElementsAre(sRotulo + ": txtNome 50"));
+    EXPECT_THAT(cabecalhos(busca.lstLista), ElementsAre("Código", sRotulo));
+    EXPECT_EQ(busca.pbBarrra.value(), 0);
+    busca.lstLista.userResizeColumn(1, 1234);
+    EXPECT_TRUE(busca.userKey(Key::enter));
+    busca.userKey(Key::escape);
+  });
+  EXPECT_TRUE(programa.pasta().existe(std::string("list/") + caso.sBusca + ".lstList.XML"));
+  localizar([&](TelaBuscaRapida& busca) {
+    EXPECT_EQ(busca.lstLista.columnWidth(1), 1234);
+    busca.unload();
+  });
+}
+
 TEST_P(BuscaRapida, WithNobodyToCallBackItReportsAFailureAndStays) {
   linha(2, "Ana");
   host.expectScreen(caso.sBusca, [&](Screen& aberta) {
@@ -409,7 +540,8 @@ TEST_F(Cadastros, TheQuickSearchOfConditionsIsByTheExactCode) {
   host.expectScreen("frmLocalizarCondicoesPagamentoRapido", [&](Screen& aberta) {
     auto& busca = dynamic_cast<TelaBuscaRapida&>(aberta);
     EXPECT_EQ(busca.caption(), "Localizar condições de pagamento");
-    EXPECT_EQ(busca.lstLista.columns()[2].heading, "Intervalo de vecimento");
+    EXPECT_THAT(cabecalhos(busca.lstLista),
+                ElementsAre("Código", "Número de parcelas", "Intervalo de vecimento", "Com entrada"));
     const std::string sInicio =
         "SELECT lCodigo, btCodigoInf, iNumeroParcelas, iIntervalo, IIF(bitEntrada = 0, 'Não', 'Sim') AS ComEntrada "
         "FROM CondicoesPagamento ";
@@ -496,6 +628,26 @@ TEST_F(Bancos, TwoClicksPickABank) {
   EXPECT_EQ(banco.iGetCodigoInf(), 1);
   EXPECT_EQ(banco.sGetNome(), "Banco Verde");
   EXPECT_EQ(chamadora.txtBanco.text(), "Banco Verde");
+}
+
+TEST_F(Bancos, SearchOnceAtTheirOpeningWithTheRight) {
+  entrarSem("bPoderPesquisar");
+  host.expectBox(semPermissao());
+  host.expectScreen("frmLocalizarBancos", [&](Screen& aberta) {
+    auto& busca = dynamic_cast<frmLocalizarBancos&>(aberta);
+    EXPECT_THAT(busca.lstLista.items(), IsEmpty());
+    EXPECT_EQ(busca.title(), "Localizar bancos");
+    EXPECT_THAT(formularioDe(busca), ElementsAre("Nome: txtNome 50"));
+    EXPECT_THAT(cabecalhos(busca.lstLista), ElementsAre("Código", "Nome"));
+    busca.lstLista.userResizeColumn(1, 1234);
+    busca.unload();
+  });
+  dynamic_cast<frmLocalizarBancos&>(programa.telas().obter("frmLocalizarBancos"))
+      .vLocalizarBanco(chamadora, banco, chamadora.txtBanco);
+  EXPECT_EQ(banco.lGetCodigo(), -1);
+  EXPECT_TRUE(programa.pasta().existe("list/frmLocalizarBancos.lstList.XML"));
+  programa.permissoes().vSetPermissoes(0);
+  EXPECT_EQ(dynamic_cast<frmLocalizarBancos&>(abrir("frmLocalizarBancos")).lstLista.columnWidth(1), 1234);
 }
 
 TEST_F(Bancos, OpenedToBeLookedAtTheyPickNothing) {

@@ -38,6 +38,42 @@ TEST_F(Clientes, ColumnsOfTheList) {
   EXPECT_THAT(ocultas, ElementsAre("Código interno da categoria", "Código interno do vendedor"));
 }
 
+TEST_F(Clientes, TheFormHasItsFieldsInTheirOrderAndPlaces) {
+  EXPECT_THAT(
+      formularioDe(abrirClientes()),
+      ElementsAre("[Dados gerais]", "Código: txtCodigoInf <= 2147483647",
+                  "Categoria: txtCategoria + cmdBuscarCategoria + cmdNovaCategoria", "Nome: txtNome 50",
+                  "Limite de crédito: txtLimiteCredito", "Endereço: txtEndereco 100", "Bairro: txtBairro 50",
+                  "Cidade: txtCidade + cmdBuscarCidade", "UF: txtUF", "CEP: txtCEP 00000-000",
+                  "Telefone: txtTelefone (00) 0000-00009", "Fax: txtFax (00) 0000-00009", "Contato: txtContato 50",
+                  "Vendedor: txtVendedor + cmdBuscarVendedor + cmdNovoVendedor", "RG: txtRG 255",
+                  "CPF: txtCPF 000.000.000-00", "IE: txtIE AAAAAAAAAAAAAA", "CNPJ: txtCNPJ AA.AAA.AAA/AAAA-00",
+                  "Nascimento: dtNascimento", "e-Mail: txtEMail 50", "Home Page: txtHomePage 50", "Observação: txtObs",
+                  "[Filiação]", "Nome do pai: txtPai 50", "Nome da mãe: txtMae 50", "[Local de entrega]",
+                  "Endereço: txtEnderecoEntrega 100", "Bairro: txtBairroEntrega 50",
+                  "Cidade: txtCidadeEntrega + cmdBuscaCidadeEntrega", "UF: txtUFEntrega",
+                  "CEP: txtCEPEntrega 00000-000", "[Local de cobrança]", "Endereço: txtEnderecoCobranca 100",
+                  "Bairro: txtBairroCobranca 50", "Cidade: txtCidadeCobranca + cmdBuscaCidadeCobranca",
+                  "UF: txtUFCobranca", "CEP: txtCEPCobranca 00000-000"));
+}
+
+TEST_F(Clientes, TheQueryOfTheList) {
+  EXPECT_EQ(
+      abrirClientes().sConsulta("WHERE lCodigoInf = 12 "),
+      "SELECT Clientes.lCodigo, Clientes.lCodigoInf, Clientes.sNome, FORMAT(fLimiteCredito, '#,##0.00') AS "
+      "LimiteCredito, sEndereco, sBairro, sCEP, sTelefone, sFax, sContato, sRG, sCPF, sIE, sCNPJ, sPai, sMae, sEmail, "
+      "FORMAT(dtNascimento, 'dd/mm/yyyy') AS Nascimento, sHomePage, txtObs, sEnderecoEntrega, sBairroEntrega, "
+      "sCEPEntrega, sEnderecoCobranca, sBairroCobranca, sCEPCobranca, lCategoria, (Categorias.btCodigoInf) AS "
+      "Categoria, lCidade, (SELECT Cidades.sNome FROM Cidades WHERE lCidade = Cidades.lCodigo) AS Cidade, (SELECT "
+      "Cidades.sUF FROM Cidades WHERE lCidade = Cidades.lCodigo) AS UF, lVendedor, (Vendedores.sNome) AS Vendedor, "
+      "lCidadeEntrega, (SELECT Cidades.sNome FROM Cidades WHERE lCidadeEntrega = Cidades.lCodigo) AS CidEntrega, "
+      "(SELECT Cidades.sUF FROM Cidades WHERE lCidadeEntrega = Cidades.lCodigo) AS UFEntrega, lCidadeCobranca, (SELECT "
+      "Cidades.sNome FROM Cidades WHERE lCidadeCobranca = Cidades.lCodigo) AS CidCobranca, (SELECT Cidades.sUF FROM "
+      "Cidades WHERE lCidadeCobranca = Cidades.lCodigo) AS UFCobranca FROM (Clientes INNER JOIN Categorias ON "
+      "Clientes.lCategoria = Categorias.lCodigo) INNER JOIN Vendedores ON Clientes.lVendedor = Vendedores.lCodigo "
+      "WHERE lCodigoInf = 12 ORDER BY Clientes.lCodigoInf, Clientes.sNome ");
+}
+
 TEST_F(Clientes, ANewRecordHasTodaysDateAndNoSalespersonNorPlaces) {
   cliente(41, "Álvaro Nunes");
   auto& tela = abrirClientes();
@@ -195,6 +231,65 @@ TEST_F(Clientes, ChecksInTheirOrder) {
   EXPECT_TRUE(tela.cidade.txtCidade.hasFocus());
   EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Vendedores"), "0")
       << "the hidden salesperson comes after the city";
+}
+
+TEST_F(Clientes, TheQuestionsStandBetweenTheRefusals) {
+  auto& tela = abrirClientes();
+  const auto digitar = [&](const char* sRG, const char* sCPF, const char* sIE, const char* sCNPJ) {
+    tela.txtRG.userType(sRG);
+    tela.txtCPF.userType(sCPF);
+    tela.txtIE.userType(sIE);
+    tela.txtCNPJ.userType(sCNPJ);
+  };
+  const auto sCPFErrado = pergunta("O CPF informado é inválido.Deseja continuar?");
+  const auto sCNPJErrado = pergunta("O CNPJ informado é inválido.Deseja continuar?");
+  preencher(tela, "Primeiro");
+  digitar("1", "11144477736", "6061", "11444777000162");
+  host.expectBox(sCPFErrado, BoxAnswer::yes);
+  host.expectBox(sCNPJErrado, BoxAnswer::yes);
+  salvar(tela);
+  executar("INSERT INTO Vendedores (lCodigoInf, sNome) VALUES (9, 'Maria')");
+  executar("UPDATE Clientes SET lVendedor = 2");
+  executar("DELETE * FROM Vendedores WHERE sNome = ''");
+
+  preencher(tela, "Segundo");
+  digitar("1", "11144477736", "6061", "11444777000162");
+  host.expectBox(aviso("O RG informado já existe no sistema."));
+  tela.userKey(Key::f3);
+  EXPECT_TRUE(tela.txtRG.hasFocus());
+  EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Vendedores WHERE sNome = ''"), "1")
+      << "the hidden salesperson comes before the numbers";
+
+  tela.txtRG.userType("2");
+  host.expectBox(aviso("O CPF informado já existe no sistema."));
+  tela.userKey(Key::f3);
+  EXPECT_TRUE(tela.txtCPF.hasFocus());
+
+  tela.txtCPF.userType("22244477736");
+  host.expectBox(sCPFErrado, BoxAnswer::yes);
+  host.expectBox(aviso("A IE informada já existe no sistema."));
+  tela.userKey(Key::f3);
+  EXPECT_TRUE(tela.txtIE.hasFocus());
+
+  tela.txtIE.userType("6062");
+  host.expectBox(sCPFErrado, BoxAnswer::yes);
+  host.expectBox(aviso("O CNPJ informado já existe no sistema."));
+  tela.userKey(Key::f3);
+  EXPECT_TRUE(tela.txtCNPJ.hasFocus()) << "the duplicate comes before the question";
+
+  tela.txtCNPJ.userType("22444777000162");
+  tela.txtNome.setFocus();
+  host.expectBox(sCPFErrado, BoxAnswer::yes);
+  host.expectBox(sCNPJErrado, BoxAnswer::no);
+  tela.userKey(Key::f3);
+  EXPECT_TRUE(tela.txtNome.hasFocus()) << "a no moves no focus";
+  EXPECT_EQ(tela.cidadeEntrega.lGetCodigo(), -1) << "the main city stands in after all questions";
+  EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Clientes"), "1");
+
+  host.expectBox(sCPFErrado, BoxAnswer::yes);
+  host.expectBox(sCNPJErrado, BoxAnswer::yes);
+  salvar(tela);
+  EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Clientes"), "2");
 }
 
 TEST_F(Clientes, AWrongCpfIsStoredOnTheUsersWord) {

@@ -55,6 +55,14 @@ TEST_P(CodigoNome, OpensOnANewRecordWithTheNextCode) {
   EXPECT_EQ(tela.txtNome.name(), caso.sCaixa);
 }
 
+TEST_P(CodigoNome, TheFormAndTheListHaveACodeAndAText) {
+  const std::string sRotulo = std::string(caso.sTexto) == "sDescricao" ? "Descrição" : "Nome";
+  const std::string sMaior = std::string(caso.sCodigo) == "btCodigoInf" ? "255" : "2147483647";
+  EXPECT_THAT(formularioDe(tela),
+              ElementsAre("Código: txtCodigoInf <= " + sMaior, sRotulo + ": " + std::string(caso.sCaixa) + " 50"));
+  EXPECT_THAT(cabecalhos(tela.lstLista), ElementsAre("Código", sRotulo));
+}
+
 TEST_P(CodigoNome, AnEmptyTableShowsAnEmptyPage) {
   EXPECT_THAT(tela.lstLista.items(), IsEmpty());
   EXPECT_EQ(tela.scrPaginas.maximum(), 0);
@@ -241,11 +249,8 @@ TEST_P(CodigoNome, AnyOtherFailureIsReportedAndTheFormStays) {
   tela.userKey(Key::f3);
   EXPECT_EQ(tela.txtNome.text(), "Sul");
   EXPECT_EQ(tela.state(), Screen::State::loaded);
-  const auto relatos = programa.pasta().nomes("Erros");
-  ASSERT_EQ(relatos.size(), 1u);
-  const std::string sRelato = fromWindows1252(programa.pasta().ler("Erros/" + relatos.front()));
-  EXPECT_THAT(sRelato, testing::HasSubstr(std::string("Formulário: ") + caso.sTela + "\r\n"));
-  EXPECT_THAT(sRelato, testing::HasSubstr("Função: cmdSalvar_Click\r\n"));
+  EXPECT_THAT(relato(), testing::HasSubstr(std::string("Formulário: ") + caso.sTela + "\r\n"));
+  EXPECT_THAT(relato(), testing::HasSubstr("Função: cmdSalvar_Click\r\n"));
 }
 
 TEST_P(CodigoNome, TheRightToSearchIsMissedOnceByEveryFill) {

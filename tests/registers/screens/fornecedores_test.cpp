@@ -42,6 +42,18 @@ TEST_F(Fornecedores, ColumnsOfTheList) {
   EXPECT_THAT(ocultas, ElementsAre("Código interno da categoria"));
 }
 
+TEST_F(Fornecedores, TheFormHasItsFieldsInTheirOrder) {
+  EXPECT_THAT(formularioDe(abrirFornecedores()),
+              ElementsAre("Código: txtCodigoInf <= 2147483647",
+                          "Categoria: txtCategoria + cmdBuscarCategoria + cmdNovaCategoria", "Nome: txtNome 50",
+                          "Endereço: txtEndereco 255", "Cidade: txtCidade + cmdBuscarCidade", "UF: txtUF",
+                          "CEP: txtCEP 00000-000", "Telefone: txtTelefone (00) 0000-00009",
+                          "Fax: txtFax (00) 0000-00009", "Contato: txtContato 50", "CPF: txtCPF 000.000.000-00",
+                          "IE: txtIE AAAAAAAAAAAAAA", "CNPJ: txtCNPJ AA.AAA.AAA/AAAA-00", "e-Mail: txtEMail 50",
+                          "Home Page: txtHomePage 50", "Observação: txtObs", "Banco: txtBanco + cmdBuscarBancos",
+                          "Agência: txtAgencia 6", "Conta: txtConta 15"));
+}
+
 TEST_F(Fornecedores, HasNoneOfTheBoxesThatOnlyACustomerHas) {
   auto& tela = abrirFornecedores();
   for (const char* sCaixa : {"txtLimiteCredito",
@@ -165,7 +177,7 @@ TEST_F(Fornecedores, ARowWithNothingInItLoadsAsEmptyBoxes) {
 
 TEST_F(Fornecedores, ChecksInTheirOrder) {
   cadastrar("frmCadastroFornecedores", 1, "Primeiro");
-  executar("UPDATE Fornecedores SET sCPF = '111.444.777-35'");
+  executar("UPDATE Fornecedores SET sCPF = '111.444.777-35', sIE = '606', sCNPJ = '11.444.777/0001-61'");
   auto& tela = abrirFornecedores();
   const auto recusado = [&](const char* sMensagem, Control& onde) {
     host.expectBox(aviso(sMensagem));
@@ -173,6 +185,8 @@ TEST_F(Fornecedores, ChecksInTheirOrder) {
     EXPECT_TRUE(onde.hasFocus()) << sMensagem;
   };
   tela.txtCPF.userType("11144477735");
+  tela.txtIE.userType("606");
+  tela.txtCNPJ.userType("11444777000161");
   tela.txtCodigoInf.userType("");
   recusado("Informe o código.", tela.txtCodigoInf);
   tela.txtCodigoInf.userType("2");
@@ -184,6 +198,10 @@ TEST_F(Fornecedores, ChecksInTheirOrder) {
   escolherCidade(tela.cidade.txtCidade, "Campinas");
   recusado("O CPF informado já existe no sistema.", tela.txtCPF);
   tela.txtCPF.userType("");
+  recusado("A IE informada já existe no sistema.", tela.txtIE);
+  tela.txtIE.userType("");
+  recusado("O CNPJ informado já existe no sistema.", tela.txtCNPJ);
+  tela.txtCNPJ.userType("");
   recusado("Informe o banco.", tela.banco.txtBanco);
   tela.banco.vSetEstado2("Banco Que Não Há");
   recusado("Informe o banco.", tela.banco.txtBanco);

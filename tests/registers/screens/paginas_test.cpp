@@ -68,6 +68,20 @@ TEST_F(Paginas, TheSelectorShowsItsPage) {
   EXPECT_EQ(tela.lGetCodigo(), -1);
 }
 
+TEST_F(Paginas, ARowOfAnotherPageIsMarkedThoughTheMarkedOneIsGone) {
+  auto& tela = comVendedores(25);
+  tamanhoDaPagina(10);
+  tela.userKey(Key::f2);
+  tela.lstLista.userClickRow(3);
+  tela.scrPaginas.userMove(1);
+  EXPECT_EQ(caixa(tela, "txtNome").text(), "Vendedor 004") << "turning pages leaves the form alone";
+  EXPECT_GT(tela.lGetCodigo(), 0);
+  tela.lstLista.userClickRow(3);
+  EXPECT_TRUE(tela.lstLista.item(3)->bold());
+  EXPECT_EQ(tela.lstLista.item(3)->colour(), 192);
+  EXPECT_EQ(caixa(tela, "txtNome").text(), "Vendedor 014");
+}
+
 TEST_F(Paginas, AfterASearchTheSelectorShowsTheWholeTable) {
   auto& tela = comVendedores(250);
   tela.vMontarLista(0, "WHERE lCodigoInf > 120 ");

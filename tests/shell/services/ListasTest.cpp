@@ -200,6 +200,15 @@ TEST_F(Paginas, TheProgressCountsAgainstTheWholeRecordset) {
   EXPECT_EQ(tela.pbBarrra.value(), 0);
 }
 
+TEST_F(Paginas, TheProgressNeverReachesItsMaximum) {
+  vendedores(2);
+  tamanho(5);
+  std::vector<std::int32_t> valores;
+  tela.aoInserir = [&] { valores.push_back(tela.pbBarrra.value()); };
+  tela.vMontarLista(0, "");
+  EXPECT_THAT(valores, ElementsAre(0, 1, 1, 1, 1));
+}
+
 TEST_F(Paginas, ThePageSizeIsReadOncePerRun) {
   vendedores(5);
   programa.executarPrograma("INSERT INTO Configuracoes (lTamanhoPagina) VALUES (2)");
