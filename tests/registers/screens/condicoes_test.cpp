@@ -6,6 +6,7 @@
 #include "Cadastros.h"
 #include "registers/screens/frmCadastroCondicoesPagamento.h"
 #include "registers/screens/frmLocalizarCondicoesPagamento.h"
+#include "support/Rotulos.h"
 
 namespace fenvale {
 namespace {
@@ -40,6 +41,16 @@ TEST_F(Condicoes, HeadingsAndStatements) {
   EXPECT_EQ(
       tela.sInclusao(),
       "INSERT INTO CondicoesPagamento (btCodigoInf, iNumeroParcelas, iIntervalo, bitEntrada) VALUES (1, 0, 0, 0)");
+}
+
+TEST_F(Condicoes, TheForm) {
+  auto& tela = abrirCondicoes();
+  EXPECT_THAT(rotulos(tela), ElementsAre("Código", "Número de parcelas", "Intervalo de vencimento"));
+  EXPECT_EQ(tela.chkEntrada.caption(), "Com &entrada");
+  condicao(9, 1, 0, false);
+  tela.userKey(Key::f2);
+  EXPECT_EQ(tela.lstLista.item(0)->key(), "000001");
+  EXPECT_EQ(tela.txtCodigoInf.text(), "10");
 }
 
 TEST_F(Condicoes, StoresWhatWasTyped) {
@@ -126,6 +137,7 @@ TEST_F(Condicoes, AConditionInUseStays) {
   host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
   host.expectBox(critica("O registro não pode ser excluído.\r\nInformação detalhada: " + sTexto));
   tela.userKey(Key::f4);
+  EXPECT_TRUE(tela.txtCodigoInf.hasFocus());
   EXPECT_EQ(guardadas().size(), 1u);
 }
 

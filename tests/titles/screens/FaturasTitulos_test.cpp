@@ -140,6 +140,27 @@ TEST_P(FaturasTitulosTest, AnotherConditionMakesTheSeriesAnewUnderEitherOption) 
   }
 }
 
+TEST_P(FaturasTitulosTest, AnotherConditionMakesTheSeriesOfAPaidOffInvoiceAnewToo) {
+  const int chave = criarFatura("90,00", umaVez);
+  pagarInteiro("000001/001", "90,00");
+  abrirFatura(chave);
+  escolherCondicao(duasVezes);
+  host.expectBox(trocaDeCondicao, BoxAnswer::yes);
+  salvarFatura();
+  EXPECT_THAT(cenario.titulos(chave),
+              ElementsAre("000001/001 31/03/2026 45,00 pago 0,00", "000001/002 30/04/2026 45,00 pago 0,00"));
+}
+
+TEST_P(FaturasTitulosTest, AnyOptionButZeroReworksTheTitles) {
+  const int chave = criarFatura("100,00", duasVezes);
+  pagarInteiro("000001/001", "50,00");
+  cenario.opcaoReparcelamento(2);
+  abrirFatura(chave).txtTotal.userType("120,00");
+  salvarFatura();
+  EXPECT_THAT(cenario.titulos(chave),
+              ElementsAre("000001/001 31/03/2026 50,00 pago 50,00", "000001/002 30/04/2026 70,00 pago 0,00"));
+}
+
 TEST_P(FaturasTitulosTest, ANoToTheNewConditionCancelsTheSave) {
   const int chave = criarFatura("90,00");
   abrirFatura(chave).txtTotal.userType("95,00");
@@ -176,6 +197,16 @@ TEST_P(FaturasTitulosTest, ThePreviewShowsTheNewTitlesInsideTheOpenTransaction) 
   faturas().userKey(Key::f3);
   EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0);
   EXPECT_EQ(cenario.titulos(1).at(0), "000001/001 31/03/2026 33,33 pago 33,33");
+}
+
+TEST_P(FaturasTitulosTest, TheQuestionComesBeforeTheCommitAndTheLastWordAfterIt) {
+  const auto nivel = [this] { return cenario.programa.dbEmpresa().Dados().transactionLevel(); };
+  digitarFatura("100,00");
+  host.then([&] { EXPECT_EQ(nivel(), 1); });
+  host.expectBox(visualizarTitulos, BoxAnswer::no);
+  host.then([&] { EXPECT_EQ(nivel(), 0); });
+  host.expectBox(concluida);
+  faturas().userKey(Key::f3);
 }
 
 TEST_P(FaturasTitulosTest, ASaveThatFailsInThePreviewLeavesTheInvoiceToBeSaved) {
@@ -218,6 +249,27 @@ TEST_P(FaturasTitulosTest, ACodeThatExistsStopsTheSaveAndLeavesNothing) {
   cenario.executar("DELETE * FROM " + lado.sTitulos);
   salvarFatura();
   EXPECT_THAT(cenario.titulos(std::stoi(cenario.valor("SELECT MAX(lCodigo) FROM " + lado.sFaturas))), SizeIs(3));
+}
+
+TEST_P(FaturasTitulosTest, AFailedChangeOfConditionGivesInvoiceAndTitlesBack) {
+  const int chave = criarFatura("90,00", umaVez);
+  pagarInteiro("000001/001", "90,00");
+  const int alheia = cenario.inserirFatura("10,00");
+  cenario.inserirTitulo(alheia, "000001/002", "10,00");
+  const std::string texto = recusaDoStore(alheia);
+  abrirFatura(chave).txtTotal.userType("95,00");
+  escolherCondicao(duasVezes);
+  host.expectBox(trocaDeCondicao, BoxAnswer::yes);
+  host.expectBox(critica("Os dados informados já existem no sistema.\r\n\r\nInformação detalhada: \r\n\r\n" + texto));
+  faturas().userKey(Key::f3);
+  EXPECT_THAT(cenario.titulos(chave), ElementsAre("000001/001 31/03/2026 90,00 pago 90,00"));
+  EXPECT_THAT(cenario.programa.linhas("SELECT fTotal, lCondicoesPagamento FROM " + lado.sFaturas +
+                                      " WHERE lCodigo = " + std::to_string(chave)),
+              ElementsAre(ElementsAre("90", std::to_string(umaVez.chave))));
+  EXPECT_EQ(faturas().lGetCodigo(), chave);
+  EXPECT_EQ(faturas().txtTotal.value(), reais("95,00"));
+  EXPECT_EQ(faturas().condicao.busca.lCodigo, duasVezes.chave);
+  EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0);
 }
 
 TEST_P(FaturasTitulosTest, AnyOtherFailureIsReportedAndLeavesNothing) {

@@ -3,7 +3,10 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <array>
+
 #include "access/services/Permissoes.h"
+#include "support/Rotulos.h"
 #include "titles/screens/CenarioDeTelas.h"
 
 namespace fenvale {
@@ -18,6 +21,7 @@ class FaturasTest : public CenarioDeTelas {
     host.verify();
     EXPECT_EQ(faturas().focused(), foco);
     EXPECT_EQ(contar(lado.sFaturas), "0");
+    EXPECT_EQ(contar("CentroCusto"), "2") << "the hidden one is made for a form that is whole";
   }
 };
 
@@ -85,6 +89,21 @@ TEST_P(FaturasTest, ChecksInTheirOrder) {
     tela.entidades.vendedor->busca.vSet(1, "Maria Aparecida");
   }
   salvarFatura();
+}
+
+TEST_P(FaturasTest, WhatWasPaidIsLookedAtBeforeTheEntryAndTheFocusStays) {
+  const int chave = criarFatura("100,00", duasVezes);
+  pagarInteiro("000001/001", "50,00");
+  TelaFaturas& tela = abrirFatura(chave);
+  tela.txtTotal.userType("49,99");
+  tela.txtEntrada.userType("-1,00");
+  tela.dtEmissao.setFocus();
+  host.expectBox(
+      aviso("O valor informado para a fatura (R$ 49,99) é inferior ao valor dos títulos já pagos (R$ 50,00).\r\n"
+            "Informe outro valor."));
+  tela.userKey(Key::f3);
+  host.verify();
+  EXPECT_EQ(tela.focused(), &tela.dtEmissao);
 }
 
 TEST_P(FaturasTest, WithoutACostCentreTheHiddenOneIsTaken) {
@@ -281,6 +300,28 @@ TEST_P(FaturasTest, InsertAndTheButtonOpenThePersonsRegister) {
   EXPECT_EQ(tela.entidades.pessoa.busca.lCodigo, 2) << "the register fills nothing in";
 }
 
+TEST_P(FaturasTest, EachSmallButtonAndItsKeyOpenTheRegisterOfTheirField) {
+  TelaFaturas& tela = faturas();
+  std::vector<std::array<std::string, 3>> campos{
+      {"txt" + lado.sPessoa, "cmdNovo" + lado.sPessoa, lado.sCadastroPessoa},
+      {"txtCondPagCodigoInf", "cmdNovaCondicaoPagamento", "frmCadastroCondicoesPagamento"},
+      {"txtPortador", "cmdNovoPortador", "frmCadastroPortadores"},
+      {"txtCentroCusto", "cmdNovoCentroCusto", "frmCadastroCentroCusto"}};
+  if (lado.bVendedor) campos.push_back({"txtVendedor", "cmdNovoVendedor", "frmCadastroVendedores"});
+  const auto fechar = [](Screen& cadastro) { cadastro.userKey(Key::escape); };
+  for (const auto& [caixa, botao, cadastro] : campos) {
+    ASSERT_NE(tela.control(caixa), nullptr) << caixa;
+    ASSERT_NE(tela.control(botao), nullptr) << botao;
+    tela.control(caixa)->setFocus();
+    host.expectScreen(cadastro, fechar);
+    tela.userKey(Key::insert);
+    host.expectScreen(cadastro, fechar);
+    dynamic_cast<Button&>(*tela.control(botao)).userClick();
+    host.verify();
+    EXPECT_EQ(tela.focused(), tela.control(caixa)) << botao;
+  }
+}
+
 TEST_P(FaturasTest, TheFourControlsOfTheConditionActAsOne) {
   for (const char* nome : {"txtCondPagCodigoInf", "txtNumeroParcelas", "txtIntervalo", "chkEntrada"}) {
     escolherCondicao(tresComEntrada);
@@ -304,7 +345,10 @@ TEST_P(FaturasTest, TheFourControlsOfTheConditionActAsOne) {
 
 TEST_P(FaturasTest, DeleteEmptiesALookupBox) {
   TelaFaturas& tela = digitarFatura("100,00");
-  for (CampoEntidade* entidade : {&tela.entidades.pessoa, &tela.entidades.portador, &tela.entidades.centroCusto}) {
+  std::vector<CampoEntidade*> entidades{&tela.entidades.pessoa, &tela.entidades.portador, &tela.entidades.centroCusto};
+  if (lado.bVendedor) entidades.push_back(tela.entidades.vendedor.get());
+  for (CampoEntidade* entidade : entidades) {
+    EXPECT_EQ(entidade->busca.lCodigo, 1);
     entidade->caixa.setFocus();
     tela.userKey(Key::del);
     EXPECT_EQ(entidade->busca.lCodigo, -1);
@@ -341,7 +385,25 @@ TEST_P(FaturasTest, ALeftClickAfterARightClickOpensNoMenu) {
   faturas().lstLista.userClickRow(0);
 }
 
+TEST_P(FaturasTest, OnlyTheKeysThatARowCarriesAreHidden) {
+  for (TelaCadastro* tela : {static_cast<TelaCadastro*>(&faturas()), static_cast<TelaCadastro*>(&titulos())})
+    for (const ListColumn& coluna : tela->lstLista.columns())
+      EXPECT_EQ(coluna.width <= 0, coluna.heading.starts_with("Código interno")) << coluna.heading;
+}
+
 INSTANTIATE_TEST_SUITE_P(Lados, FaturasTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);
+
+TEST(FaturasCliente, TheForm) {
+  Cenario cenario{ladoReceber(), &vRegistrarTelasDeTitulos};
+  const auto& tela = cenario.programa.telas().obter<frmCadastroFaturasCliente>("frmCadastroFaturasCliente");
+  EXPECT_EQ(tela.caption(), "Faturas do cliente");
+  EXPECT_EQ(tela.title(), "Cadastro de faturas do cliente");
+  EXPECT_THAT(rotulos(tela),
+              ElementsAre("Nº da fatura", "Emissão", "Total da fatura", "Entrada", "Cliente", "Código",
+                          "Nº de parcelas", "Intervalo de venc.", "Portador", "Vendedor", "Centro de custo"));
+  EXPECT_THAT(quadros(tela), ElementsAre("Condição de pagamento"));
+  EXPECT_EQ(tela.chkEntrada.caption(), "C&om entrada");
+}
 
 TEST(FaturasCliente, ColumnsOfTheList) {
   Cenario cenario{ladoReceber(), &vRegistrarTelasDeTitulos};
@@ -355,6 +417,18 @@ TEST(FaturasCliente, ColumnsOfTheList) {
                                       "Código interno do portador", "Portador", "Código interno do vendedor",
                                       "Vendedor", "Código interno do centro de custo", "Centro de custo"));
 }
+
+class FaturasClienteTest : public CenarioDeTelas {};
+
+TEST_P(FaturasClienteTest, TheRowsOfTheList) {
+  criarFatura("1.000,00", duasVezes);
+  const ListItem& linha = *faturas().lstLista.item(0);
+  EXPECT_EQ(linha.key(), "000001");
+  EXPECT_THAT(celulas(linha), ElementsAre("1", "01/03/2026", "1.000,00", "0,00", "1", "Açougue São João Ltda.", "7",
+                                          "7", "2", "30", "Não", "1", "Carteira", "1", "Maria Aparecida", "1", "Loja"));
+}
+
+INSTANTIATE_TEST_SUITE_P(Receber, FaturasClienteTest, testing::Values(&ladoReceber), nomeDoLado);
 
 TEST(FaturasCliente, TheListsStatement) {
   Cenario cenario{ladoReceber(), &vRegistrarTelasDeTitulos};

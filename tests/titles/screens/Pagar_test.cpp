@@ -5,24 +5,12 @@
 
 #include <limits>
 
-#include "platform/ui/Layout.h"
 #include "store/services/ConfiguracoesPrograma.h"
+#include "support/Rotulos.h"
 #include "titles/screens/CenarioDeTelas.h"
 
 namespace fenvale {
 namespace {
-
-/// The labels of the form's fields, in reading order.
-void vColherRotulos(const LayoutNode& no, std::vector<std::string>& rotulos) {
-  if (no.kind == LayoutNode::Kind::field) rotulos.push_back(no.caption);
-  for (const LayoutNode& filho : no.children) vColherRotulos(filho, rotulos);
-}
-std::vector<std::string> rotulos(const Screen& tela) {
-  std::vector<std::string> todos;
-  vColherRotulos(tela.layout(), todos);
-  for (std::string& rotulo : todos) std::erase(rotulo, '&');
-  return todos;
-}
 
 std::vector<std::string> cabecalhos(const ListView& lista) {
   std::vector<std::string> textos;

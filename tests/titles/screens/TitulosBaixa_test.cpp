@@ -133,6 +133,17 @@ TEST_P(TitulosBaixaTest, PaidInFullWithADiscountIsAnExcess) {
                           "000001/003 30/05/2026 100,00 pago 0,00"));
 }
 
+TEST_P(TitulosBaixaTest, ADiscountThatMakesAPartialPaymentAnExcessLeavesNoComplement) {
+  criarFatura("300,00");
+  abrirTitulo("000001/001").txtDesconto.userType("10,00");
+  titulos().txtValorPago.userType("95,00");
+  host.expectBox(perguntaParcial("95,00", "100,00", "5,00"), BoxAnswer::yes);
+  sim(abateTitulos("95,00", "-5,00"));
+  EXPECT_THAT(cenario.titulos(1),
+              ElementsAre("000001/001 31/03/2026 100,00 pago 95,00", "000001/002 30/04/2026 102,50 pago 0,00",
+                          "000001/003 30/05/2026 102,50 pago 0,00"));
+}
+
 TEST_P(TitulosBaixaTest, NothingPaidIsSavedOpen) {
   criarFatura("100,00", umaVez);
   abrirTitulo("000001/001").txtObs.userType("promessa para o dia 20");
@@ -224,6 +235,46 @@ TEST_P(TitulosBaixaTest, AnExcessIsRememberedUntilTheNextOpenTitleIsSaved) {
   abrirTitulo("000001/001");
   sim(jaPago);
   EXPECT_THAT(cenario.titulos(1), SizeIs(3)) << "now only a complement would follow, and nothing is left for one";
+}
+
+TEST_P(TitulosBaixaTest, AnExcessIsStillRememberedAfterAPaymentThatWasCancelled) {
+  criarFatura("300,00");
+  pagar("000001/001", "150,00", {{abateTitulos("150,00", "50,00"), BoxAnswer::yes}, {concluida, BoxAnswer::ok}});
+  cenario.executar("UPDATE " + lado.sTitulos + " SET fValor = 140 WHERE sCodigoInf = '000001/002'");
+  pagar("000001/003", "75,00", {{perguntaPagamento("75,00"), BoxAnswer::no}, {cancelada, BoxAnswer::ok}});
+  abrirTitulo("000001/001");
+  sim(jaPago);
+  EXPECT_EQ(cenario.titulos(1).at(1), "000001/002 30/04/2026 82,50 pago 0,00");
+}
+
+TEST_P(TitulosBaixaTest, APaidInvoiceIsRememberedEvenForTheNextInvoice) {
+  criarFatura("300,00");
+  criarFatura("80,00", duasVezes);
+  pagarInteiro("000002/001", "40,00");
+  pagar("000001/001", "300,00", {{pagaFatura("300,00"), BoxAnswer::yes}, {concluida, BoxAnswer::ok}});
+  abrirTitulo("000002/001");
+  sim(jaPago);
+  EXPECT_THAT(cenario.titulos(2),
+              ElementsAre("000002/001 31/03/2026 40,00 pago 40,00", "000002/002 30/04/2026 40,00 pago 40,00"));
+}
+
+TEST_P(TitulosBaixaTest, AFailureInTheMiddleOfASaveIsReportedAndUndone) {
+  criarFatura("300,00");
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  cenario.executar("UPDATE " + lado.sTitulos + " SET fValor = 900000000000000 WHERE sCodigoInf <> '000001/001'");
+  tela.entidades.pessoa.busca.vSet(2, "Bar do Élio");
+  tela.txtValorPago.userType("150,00");
+  host.expectBox(abateTitulos("150,00", "50,00"), BoxAnswer::yes);
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  tela.userKey(Key::f3);
+  host.verify();
+  EXPECT_EQ(cenario.titulos(1).at(0), "000001/001 31/03/2026 100,00 pago 0,00");
+  EXPECT_EQ(cenario.valor("SELECT " + lado.sChavePessoa + " FROM " + lado.sFaturas), "1");
+  EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0);
+  EXPECT_EQ(tela.lGetCodigo(), 1);
+  EXPECT_EQ(tela.txtValorPago.value(), reais("150,00"));
+  EXPECT_THAT(cenario.programa.pasta().ler("Erros/" + cenario.programa.pasta().nomes("Erros").at(0)),
+              testing::HasSubstr("cmdSalvar_Click"));
 }
 
 TEST_P(TitulosBaixaTest, TheComplementOfAnInvoiceWithSevenDigitsIsAlwaysTheFirst) {

@@ -68,6 +68,40 @@ TEST_P(TitulosExclusaoTest, TheInvoiceShownStaysWithTheTickOn) {
   EXPECT_THAT(primeiraColuna(titulos().lstLista), ElementsAre("000001/003", "000002/001"));
 }
 
+TEST_P(TitulosExclusaoTest, TheInvoiceThatIsPreviewedStaysWithoutTheTick) {
+  criarFatura("90,00");
+  criarFatura("50,00", umaVez);
+  titulos().vSetFaturaPreview(1);
+  abrirTitulo("000001/002");
+  excluir();
+  EXPECT_THAT(primeiraColuna(titulos().lstLista), ElementsAre("000001/001", "000001/003"));
+}
+
+TEST_P(TitulosExclusaoTest, ATitleThatTheStoreKeepsIsNotDeletedAndTheInvoiceStaysWhole) {
+  criarFatura("90,00");
+  cenario.executar(
+      "CREATE TABLE Notas (lCodigo COUNTER CONSTRAINT PK_Notas PRIMARY KEY, lTitulo LONG NOT NULL, CONSTRAINT "
+      "FK_Notas_lTitulo FOREIGN KEY (lTitulo) REFERENCES " +
+      lado.sTitulos + " (lCodigo))");
+  cenario.executar("INSERT INTO Notas (lTitulo) VALUES (2)");
+  std::string texto;
+  try {
+    cenario.executar("DELETE * FROM " + lado.sTitulos + " WHERE lCodigo = 2");
+  } catch (const Error& falha) {
+    texto = falha.description;
+  }
+  abrirTitulo("000001/002");
+  host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
+  host.expectBox(critica("O registro não pode ser excluído.\r\n\r\nInformação detalhada: \r\n\r\n" + texto));
+  titulos().userKey(Key::f4);
+  host.verify();
+  EXPECT_THAT(cenario.titulos(1), SizeIs(3));
+  EXPECT_EQ(cenario.valor("SELECT fTotal FROM " + lado.sFaturas), "90");
+  EXPECT_EQ(titulos().lGetCodigo(), 2);
+  EXPECT_EQ(titulos().focused(), &titulos().txtCodigoInf);
+  EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0);
+}
+
 TEST_P(TitulosExclusaoTest, WithoutTheRightNothingIsAsked) {
   cenario.programa.executarPrograma(
       "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "

@@ -5,6 +5,7 @@
 
 #include "access/services/Permissoes.h"
 #include "store/services/ConfiguracoesPrograma.h"
+#include "support/Rotulos.h"
 #include "titles/screens/CenarioDeTelas.h"
 
 namespace fenvale {
@@ -34,6 +35,16 @@ TEST_P(TitulosListaTest, OpensOnTheOpenTitlesByCode) {
   EXPECT_TRUE(tela.txtCodigoInf.empty()) << "no code is proposed";
   EXPECT_EQ(tela.lGetCodigo(), -1);
   EXPECT_THAT(tela.entidades.chaves(), testing::Each(-1));
+}
+
+TEST_P(TitulosListaTest, TheBoxesTakeWhatTheStoreHolds) {
+  TelaTitulosCadastro& tela = titulos();
+  EXPECT_EQ(tela.chkManterFatura.caption(), "Após salvar ou excluir, &manter os títulos da fatura atual");
+  EXPECT_EQ(tela.txtCodigoInf.maxLength(), 15U);
+  EXPECT_EQ(tela.txtObs.maxLength(), 255U);
+  if (tela.txtFilial) {
+    EXPECT_EQ(tela.txtFilial->maxLength(), 3U);
+  }
 }
 
 TEST_P(TitulosListaTest, SearchesAndPrintWaitForTheirScreens) {
@@ -160,6 +171,17 @@ TEST_P(TitulosListaTest, NewGoesBackToTheOpenTitles) {
   EXPECT_THAT(primeiraColuna(titulos().lstLista), ElementsAre("000001/002", "000001/003"));
 }
 
+TEST_P(TitulosListaTest, AnotherPageOfASearchIsAPageOfTheOpenTitles) {
+  criarFatura("90,00", tresComEntrada, "30,00");
+  criarFatura("90,00");
+  cenario.programa.configuracoes().vSetTamanhoPagina(2);
+  TelaTitulosCadastro& tela = titulos();
+  tela.vMontarLista(0, "WHERE " + lado.sTitulos + "." + lado.sLigacao + " = 1 ");
+  EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("000001/001", "000001/002"));
+  tela.scrPaginas.setValue(1);
+  EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("000002/001", "000002/002"));
+}
+
 TEST_P(TitulosListaTest, SpaceMovesThroughTheLookupBoxes) {
   TelaTitulosCadastro& tela = titulos();
   const auto fechar = [](Screen& busca) { busca.userKey(Key::escape); };
@@ -275,6 +297,20 @@ class TitulosReceberTest : public CenarioDeTelas {
  protected:
   frmCadastroTitulosReceber& receber() { return dynamic_cast<frmCadastroTitulosReceber&>(titulos()); }
 };
+
+TEST_P(TitulosReceberTest, TheForm) {
+  EXPECT_EQ(titulos().caption(), "Títulos a receber");
+  EXPECT_EQ(titulos().title(), "Cadastro de títulos a receber");
+  EXPECT_THAT(rotulos(titulos()),
+              ElementsAre("Emissão", "Cliente", "Portador", "Valor da fatura", "Vendedor", "Centro de custo", "Código",
+                          "Vencimento", "Valor do título", "Nota fiscal", "Observação", "Pagamento", "Juro cobrado",
+                          "Desconto", "Valor pago"));
+  for (const char* doPagar : {"txtFilial", "txtFornecedor", "cmdNovoFornecedor"})
+    EXPECT_EQ(titulos().control(doPagar), nullptr) << doPagar;
+  for (const char* nome : {"txtCliente", "txtVendedor", "cmdNovoCliente", "cmdNovoPortador", "cmdNovoVendedor",
+                           "cmdNovoCentroCusto", "cmdCalcularJuros", "cmdLocalizarBaixa"})
+    EXPECT_NE(titulos().control(nome), nullptr) << nome;
+}
 
 TEST_P(TitulosReceberTest, ColumnsOfTheList) {
   std::vector<std::string> cabecalhos;

@@ -49,18 +49,21 @@ TEST_P(TitulosValidacaoTest, ChecksInTheirOrder) {
     recusa(aviso("Informe o vendedor."), &tela.entidades.vendedor->caixa);
     tela.entidades.vendedor->busca.vSet(1, "Maria Aparecida");
   }
+  EXPECT_EQ(contar("CentroCusto"), "2");
   recusa(aviso("Informe o valor da fatura."), &tela.txtTotal);
+  EXPECT_EQ(contar("CentroCusto"), "3") << "the hidden one is taken with the others";
   tela.txtTotal.userType("100,00");
+  tela.txtValorPago.userType("-1,00");
+  tela.txtJuros.userType("-1,00");
+  tela.txtDesconto.userType("-1,00");
   recusa(aviso("Informe o valor do título."), &tela.txtValor);
   tela.txtValor.userType("100,00");
-  tela.txtValorPago.userType("-1,00");
   recusa(aviso("Informe o valor pago do título."), &tela.txtValorPago);
-  tela.txtValorPago.userType("0,00");
-  tela.txtJuros.userType("-1,00");
+  tela.txtValorPago.userType("100,00");  // its question waits for the two that follow
   recusa(aviso("Informe o valor dos juros."), &tela.txtJuros);
   tela.txtJuros.userType("0,00");
-  tela.txtDesconto.userType("-1,00");
   recusa(aviso("Informe o valor dos descontos."), &tela.txtDesconto);
+  tela.txtValorPago.userType("0,00");
   tela.txtDesconto.userType("0,00");
   EXPECT_EQ(contar(lado.sTitulos), "0");
   para(concluida);
@@ -115,6 +118,26 @@ TEST_P(TitulosValidacaoTest, ATitleAboveItsInvoiceIsAskedAboutAndTheInvoiceKeeps
   EXPECT_EQ(cenario.valor("SELECT fValor FROM " + lado.sTitulos), "1250.5");
 }
 
+TEST_P(TitulosValidacaoTest, TheInvoiceIsLookedAtBeforeTheAmountsOfTheTitle) {
+  digitarTitulo("avulso", "100,00", "150,00").txtValorPago.userType("-1,00");
+  host.expectBox({BoxStyle::exclamation, BoxButtons::yesNo, "Norvane Sistemas",
+                  "O valor do título (R$ 150,00) é maior que o valor total da fatura (R$ 100,00).\r\n"
+                  "Assim, o valor total será igualado ao valor do título.\r\n\r\nDeseja continuar?"},
+                 BoxAnswer::yes);
+  recusa(aviso("Informe o valor pago do título."), &titulos().txtValorPago);
+
+  criarFatura("100,00", umaVez);
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.txtTotal.userType("200,00");
+  tela.txtValor.userType("0,00");
+  para(
+      aviso("O valor total da fatura (R$ 100,00) é diferente do valor informado (R$ 200,00).\r\nPara alterar o valor "
+            "total da fatura, vá até o formulário " +
+            lado.sOndeMudarTotal + "."));
+  tela.txtTotal.userType("100,00");
+  recusa(aviso("Informe o valor do título."), &tela.txtValor);
+}
+
 TEST_P(TitulosValidacaoTest, TheTotalOfAnInvoiceIsNotChangedHere) {
   criarFatura("1.500,00");
   TelaTitulosCadastro& tela = abrirTitulo("000001/001");
@@ -164,6 +187,7 @@ TEST_P(TitulosValidacaoTest, APaidTitleTakesOnlyItsIdentification) {
   tela.txtJuros.userType("9,00");
   tela.txtDesconto.userType("8,00");
   tela.txtValorPago.userType("1.000,00");
+  tela.txtTotal.userType("0,00");
   tela.txtNF.userType("12");
   tela.txtObs.userType("conferido");
   para(jaPago, BoxAnswer::no);
@@ -173,6 +197,38 @@ TEST_P(TitulosValidacaoTest, APaidTitleTakesOnlyItsIdentification) {
   EXPECT_THAT(cenario.titulos(1), ElementsAre("000001/00A 31/03/2026 100,00 pago 100,00"));
   EXPECT_THAT(doTitulo("000001/00A", "FORMAT(dtPagamento, 'dd/mm/yyyy'), fJuros, fDesconto, lNF, sObs"),
               ElementsAre("07/05/2026", "0", "0", "12", "conferido"));
+}
+
+TEST_P(TitulosValidacaoTest, OfAPaidTitleNothingMoreIsCheckedAndTheStoreHasTheLastWord) {
+  criarFatura("100,00", umaVez);
+  pagarInteiro("000001/001", "100,00");
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.entidades.portador.busca.vLimpar();
+  tela.entidades.centroCusto.busca.vLimpar();
+  std::string texto;
+  try {
+    cenario.executar("UPDATE " + lado.sFaturas + " SET lPortador = -1, lCentroCusto = -1");
+  } catch (const Error& falha) {
+    texto = falha.description;
+  }
+  host.expectBox(jaPago, BoxAnswer::yes);
+  recusa(critica("Os dados informados já existem no sistema.\r\n\r\nInformação detalhada: \r\n\r\n" + texto),
+         &tela.txtCodigoInf);
+  EXPECT_EQ(contar("CentroCusto"), "2");
+  EXPECT_EQ(tela.lGetCodigo(), 1);
+}
+
+TEST_P(TitulosValidacaoTest, ValuesTypedOverAPaidTitleAreNotItsOwnButStillMoveTheOthers) {
+  criarFatura("300,00");
+  pagarInteiro("000001/001", "100,00");
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.txtValor.userType("120,00");
+  host.expectBox(jaPago, BoxAnswer::yes);
+  para(concluida);
+  EXPECT_THAT(cenario.titulos(1),
+              ElementsAre("000001/001 31/03/2026 100,00 pago 100,00", "000001/002 30/04/2026 93,33 pago 0,00",
+                          "000001/003 30/05/2026 93,33 pago 0,00", "000001/R01 31/03/2026 13,34 pago 0,00"))
+      << "a complement of 20,00 first, then the difference off the three that are open";
 }
 
 TEST_P(TitulosValidacaoTest, APaidTitleStillNeedsACode) {
@@ -218,7 +274,7 @@ TEST_P(TitulosValidacaoTest, ACodeThatExistsIsRefusedAndNothingStays) {
   EXPECT_EQ(contar(lado.sFaturas), "2");
 }
 
-TEST_P(TitulosValidacaoTest, ATitleWhoseInvoiceWentInTheMeantimeGetsAnother) {
+TEST_P(TitulosValidacaoTest, TheTotalOfAnInvoiceThatWentInTheMeantimeIsZero) {
   criarFatura("100,00", umaVez);
   TelaTitulosCadastro& tela = abrirTitulo("000001/001");
   tela.txtTotal.setValue(Currency());
@@ -229,6 +285,59 @@ TEST_P(TitulosValidacaoTest, ATitleWhoseInvoiceWentInTheMeantimeGetsAnother) {
       aviso("O valor total da fatura (R$ 0,00) é diferente do valor informado (R$ 100,00).\r\nPara alterar o valor "
             "total da fatura, vá até o formulário " +
             lado.sOndeMudarTotal + "."));
+}
+
+TEST_P(TitulosValidacaoTest, APaidTitleWhoseInvoiceWentInTheMeantimeBringsTheInvoiceBack) {
+  criarFatura("100,00", umaVez);
+  pagarInteiro("000001/001", "100,00");
+  abrirTitulo("000001/001");
+  cenario.executar("DELETE * FROM " + lado.sTitulos);  // a purge at another machine
+  cenario.executar("DELETE * FROM " + lado.sFaturas);
+  host.expectBox(jaPago, BoxAnswer::yes);
+  para(concluida);
+  EXPECT_THAT(cenario.programa.linhas("SELECT lNumeroFatura, fTotal, fEntrada, " + lado.sChavePessoa + " FROM " +
+                                      lado.sFaturas),
+              ElementsAre(ElementsAre("1", "100", "0", "1")));
+  EXPECT_EQ(contar(lado.sTitulos), "0");
+}
+
+/// A box that cannot be shown stands for whatever fails within a check.
+TEST_P(TitulosValidacaoTest, TheTwoFirstChecksReportTheirFailuresUnderTheirOwnNames) {
+  const auto falhar = [] { throw Error(errors::overflow, "Estouro de capacidade."); };
+  const auto relato = [this](std::size_t vez) {
+    const auto nomes = cenario.programa.pasta().nomes("Erros");
+    EXPECT_THAT(nomes, SizeIs(vez));
+    return cenario.programa.pasta().ler("Erros/" + nomes.back());
+  };
+  criarFatura("100,00", umaVez);
+  TelaTitulosCadastro& tela = abrirTitulo("000001/001");
+  tela.txtValor.userType("90,00");
+  tela.txtValorPago.userType("90,00");
+  host.then(falhar);
+  para(relatoDeFalha(), BoxAnswer::no);
+  EXPECT_THAT(relato(1), testing::HasSubstr("bVerificarAcaoPagamentoAlteracaoValor"));
+
+  cenario.programa.relogioDeTeste().setDia(2026, 5, 11);  // the reports bear the day in their names
+  pagarInteiro("000001/001", "100,00");
+  abrirTitulo("000001/001");
+  host.then(falhar);
+  para(relatoDeFalha(), BoxAnswer::no);
+  EXPECT_THAT(relato(2), testing::HasSubstr("bVerificarTituloJaPago"));
+  EXPECT_EQ(titulos().lGetCodigo(), 1) << "nothing was saved and the form stays";
+}
+
+TEST_P(TitulosValidacaoTest, TheLastWordComesAfterTheCommit) {
+  digitarTitulo("avulso", "100,00", "100,00");
+  host.then([this] { EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0); });
+  para(concluida);
+}
+
+TEST_P(TitulosValidacaoTest, ATitleTypedByHandHadNoInvoiceToKeepShowing) {
+  criarFatura("100,00", umaVez);
+  titulos().chkManterFatura.userClick();
+  digitarTitulo("avulso", "100,00", "100,00");
+  para(concluida);
+  EXPECT_THAT(titulos().lstLista.items(), IsEmpty()) << "the invoice remembered is that of before the save: none";
 }
 
 INSTANTIATE_TEST_SUITE_P(Lados, TitulosValidacaoTest, testing::Values(&ladoReceber, &ladoPagar), nomeDoLado);

@@ -8,6 +8,7 @@
 #include "registers/screens/TelaBuscaRapida.h"
 #include "registers/screens/TelasDosCadastros.h"
 #include "shell/services/Telas.h"
+#include "support/Rotulos.h"
 #include "titles/Cenario.h"
 #include "titles/screens/frmTransferenciaVendedores.h"
 
@@ -62,6 +63,7 @@ class TransferenciaVendedoresTest : public testing::Test {
 TEST_F(TransferenciaVendedoresTest, OpensWithNobodyChosen) {
   EXPECT_EQ(tela.caption(), "Vendedores");
   EXPECT_EQ(tela.title(), "Transferência de vendedores entre clientes");
+  EXPECT_THAT(rotulos(tela), ElementsAre("do vendedor", "para o vendedor"));
   EXPECT_TRUE(tela.txtVendedorOrigem.hasFocus());
   EXPECT_EQ(tela.origem.lGetCodigo(), -1);
   EXPECT_EQ(tela.destino.lGetCodigo(), -1);
@@ -142,9 +144,12 @@ TEST_F(TransferenciaVendedoresTest, TheCustomersMoveAndTheInvoicesStay) {
       "lCidadeEntrega, lCidadeCobranca) VALUES (3, 'Casa Paraíba', 0, #01/01/1980#, 1, 1, 1, 1, 1)");
   cenario.inserirFatura("100,00");
   escolherMariaParaJoao();
+  host.then([this] {
+    EXPECT_THAT(vendedoresDosClientes(), ElementsAre("2", "2", "2"));
+    EXPECT_EQ(tela.txtVendedorOrigem.text(), "Maria Aparecida") << "emptied when it was told";
+  });
   host.expectBox(concluida);
   tela.userKey(Key::f3);
-  EXPECT_THAT(vendedoresDosClientes(), ElementsAre("2", "2", "2"));
   EXPECT_EQ(cenario.valor("SELECT lVendedor FROM FaturasCliente"), "1");
   for (const Vendedor* vendedor : {&tela.origem, &tela.destino}) {
     EXPECT_EQ(vendedor->lGetCodigo(), -1);

@@ -13,6 +13,7 @@
 #include "shell/services/Telas.h"
 #include "store/services/Empresas.h"
 #include "support/Rodada.h"
+#include "support/Rotulos.h"
 #include "titles/Cenario.h"
 #include "titles/screens/frmZerarTitulos.h"
 
@@ -68,7 +69,10 @@ class ZerarTitulosTest : public testing::Test {
     return tela;
   }
   void zerar(frmZerarTitulos& tela, const MessageBox& caixa) {
+    const auto foraDaTransacao = [this] { EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0); };
+    host.then(foraDaTransacao);
     host.expectBox(caixa, BoxAnswer::yes);
+    host.then(foraDaTransacao);
     host.expectBox(concluida);
     tela.userKey(Key::f3);
     host.verify();
@@ -95,6 +99,8 @@ TEST_F(ZerarTitulosTest, OpensOnTodayWithBothSidesChosen) {
   EXPECT_EQ(tela.optPagosRecebidos.caption(), "Pagos e recebidos");
   EXPECT_EQ(tela.optRecebidos.caption(), "Recebidos");
   EXPECT_EQ(tela.optPagos.caption(), "Pagos");
+  EXPECT_THAT(quadros(tela), ElementsAre("Apagar os títulos entre o período"));
+  EXPECT_THAT(rotulos(tela), ElementsAre("Incial", "Final"));
   EXPECT_TRUE(tela.optPagosRecebidos.chosen());
   EXPECT_EQ(tela.dtInicial.value(), data("10/05/2026"));
   EXPECT_EQ(tela.dtFinal.value(), data("10/05/2026"));

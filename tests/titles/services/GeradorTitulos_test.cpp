@@ -116,6 +116,17 @@ TEST_P(GeradorTitulosTest, AGrownInvoiceThatWasPaidGetsOneMoreTitleDueToday) {
   EXPECT_EQ(campo("FORMAT(dtPagamento, 'dd/mm/yyyy')", "000001/003"), "10/05/2026");
 }
 
+TEST_P(GeradorTitulosTest, TheThousandthTitleIsAddedUnderItsFirstThreeDigits) {
+  fatura = cenario.inserirFatura("1.000,00");
+  cenario.programa.dbEmpresa().Dados().beginTrans();
+  for (int i = 1; i <= 999; ++i)
+    if (i != 100) cenario.inserirTitulo(fatura, sCodigoTitulo(fatura, i), "1,00", "1,00");
+  cenario.inserirTitulo(fatura, "avulso", "1,00", "0,50");
+  gerador.vReajustarTitulosFatura(fatura, dados("1.000,00"));
+  cenario.programa.dbEmpresa().Dados().commitTrans();
+  EXPECT_EQ(campo("fValor", "000001/100"), "1.5");
+}
+
 TEST_P(GeradorTitulosTest, PayingTheInvoiceGivesEveryOpenTitleTheSameAmount) {
   fatura = cenario.inserirFatura("300,00");
   cenario.inserirTitulo(fatura, "000001/001", "100,00", "90,00");

@@ -70,6 +70,19 @@ TEST_F(JurosTest, TheDailyPartIsRoundedToFourDecimalsBeforeTheMonthlyPart) {
   taxas("0.033", "2");
   // jd = round4(333,33 x 0,00033 x 31) = 3,41; 3,41 + 336,74 x 0,02
   EXPECT_EQ(juros("333,33", 31), reais("10,1448"));
+  taxas("0.1", "0.75");
+  // jd = round4(832,13 x 0,001 x 115) = round4(95,69495) = 95,6950; unrounded the end would be 123,5297
+  EXPECT_EQ(juros("832,13", 115), reais("123,5298"));
+}
+
+/// The last decimal of a tie hangs on the order in which the doubles are multiplied.
+TEST_F(JurosTest, TheRateIsAFractionFirstAndThePeriodsComeLast) {
+  taxas("0.1", "2");
+  EXPECT_EQ(juros("371,27", 135), reais("83,8327"));
+  taxas("0.05", "2.5");
+  EXPECT_EQ(juros("236,49", 192), reais("61,5820"));
+  taxas("0.25", "2.5");
+  EXPECT_EQ(juros("464,52", 100), reais("159,6787"));
 }
 
 TEST_F(JurosTest, NegativeRatesAreNoRates) {
