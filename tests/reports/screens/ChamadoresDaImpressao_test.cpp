@@ -7,7 +7,12 @@
 
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
+#include "overview/services/QuadroGeralContas.h"
+#include "platform/base/Text.h"
+#include "platform/os/Files.h"
+#include "platform/ui/Choices.h"
 #include "platform/ui/ListView.h"
+#include "registers/services/TelaPaginada.h"
 #include "reports/services/ListagemTexto.h"
 #include "reports/services/OpcoesImpressaoList.h"
 #include "shell/services/Tela.h"
@@ -19,7 +24,10 @@
 namespace fenvale {
 namespace {
 
+using testing::AllOf;
 using testing::ElementsAre;
+using testing::HasSubstr;
+using testing::Not;
 
 struct Chamador {
   std::string sTela;
@@ -57,18 +65,28 @@ class OpcoesDeTeste final : public Tela, public OpcoesRelatorioLista {
  public:
   explicit OpcoesDeTeste(Contexto& contexto) : Tela(contexto, "frmOpcoesRelList") {}
   void vCarregar(const std::string& sTitulo, std::int16_t iColunas, ListView& lst) override {
-    // Also as it is printed: no column as it was designed, and no heading, is wider than the line.
+    pedidos.push_back(lst.screen().sGetName() + "." + lst.name() + " | " + sTitulo + " | " + std::to_string(iColunas));
+    // Also as it is printed without its rows, by the widths of the list and by the headings: no column as it was
+    // designed, and no heading, is wider than the line.
+    lst.clear();
     OpcoesImpressaoList opcoes;
+    opcoes.vSetTitulo(sTitulo);
     opcoes.vSetColunas(iColunas);
     opcoes.vSetList(lst);
-    for (const auto iDimensionamento : std::initializer_list<std::int16_t>{0, 1}) {
+    std::string& listagem = listagens.emplace_back();
+    for (const auto iDimensionamento : std::initializer_list<std::int16_t>{1, 0}) {
       opcoes.vSetOpcaoDimensionamento(iDimensionamento);
-      EXPECT_NO_THROW(vGerarListagem(opcoes, [](std::string_view) {})) << iDimensionamento;
+      EXPECT_NO_THROW(vGerarListagem(opcoes, [&listagem](std::string_view bloco) { listagem += bloco; }))
+          << iDimensionamento;
     }
-    pedidos.push_back(lst.screen().sGetName() + "." + lst.name() + " | " + sTitulo + " | " + std::to_string(iColunas));
   }
   std::vector<std::string> pedidos;
+  std::vector<std::string> listagens;
 };
+
+std::string ouro(const std::string& lista) {
+  return files::read(std::string(FENVALE_SOURCE_DIR) + "/tests/reports/screens/ouro/" + lista + ".txt");
+}
 
 void vRegistrarComOpcoesDeTeste(Telas& telas) {
   vRegistrarTelas(telas);
@@ -111,6 +129,13 @@ TEST_P(ChamadoresDaImpressao, F5HandsOverTheListWithItsTitleAndWidth) {
       ElementsAre(tela.sGetName() + ".lstLista | " + GetParam().sTitulo + " | " + std::to_string(GetParam().iColunas)));
 }
 
+TEST_P(ChamadoresDaImpressao, TheColumnsOfTheListingAreThoseOfTheDesign) {
+  Screen& tela = abrir();
+  tela.userKey(Key::f5);
+  EXPECT_THAT(programa.telas().obter<OpcoesDeTeste>("frmOpcoesRelList").listagens,
+              ElementsAre(ouro(tela.sGetName() + ".lstLista")));
+}
+
 TEST_P(ChamadoresDaImpressao, WithoutTheRightToPrintTheOptionsStayClosed) {
   programa.executarPrograma(
       "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
@@ -125,6 +150,51 @@ TEST_P(ChamadoresDaImpressao, WithoutTheRightToPrintTheOptionsStayClosed) {
 
 INSTANTIATE_TEST_SUITE_P(Programa, ChamadoresDaImpressao, testing::ValuesIn(chamadoresRegistrados()),
                          [](const auto& chamador) { return chamador.param.sTela; });
+
+TEST(TelasQueImprimem, TheOverviewPrintsEachOfItsFourLists) {
+  ProgramaDeTeste programa(vRegistrarComOpcoesDeTeste);
+  programa.abrirEmpresa();
+  programa.quadroGeralContas().vSetMotrarTodas(true);
+  Screen& tela = programa.telas().obter("frmMostrarContas");
+  tela.ensureLoaded();
+  for (const char* botao :
+       {"cmdEmitirPagarDia", "cmdEmitirReceberDia", "cmdEmitirPagarVencidas", "cmdEmitirReceberVencidas"})
+    dynamic_cast<Button&>(*tela.control(botao)).userClick();
+  const auto& opcoes = programa.telas().obter<OpcoesDeTeste>("frmOpcoesRelList");
+  EXPECT_THAT(opcoes.pedidos,
+              ElementsAre("frmMostrarContas.lstPagarDia | Contas a pagar de 15/03/2026 | 130",
+                          "frmMostrarContas.lstReceberDia | Contas a receber de 15/03/2026 | 130",
+                          "frmMostrarContas.lstPagarVencidas | Contas a pagar vencidas em 15/03/2026 | 130",
+                          "frmMostrarContas.lstReceberVencidas | Contas a receber vencidas em 15/03/2026 | 130"));
+  EXPECT_THAT(opcoes.listagens,
+              ElementsAre(ouro("frmMostrarContas.lstPagarDia"), ouro("frmMostrarContas.lstReceberDia"),
+                          ouro("frmMostrarContas.lstPagarVencidas"), ouro("frmMostrarContas.lstReceberVencidas")));
+}
+
+TEST(TelasQueImprimem, PutOnPaperThePageThatShows) {
+  ProgramaDeTeste programa(vRegistrarTelas);
+  programa.abrirEmpresa();
+  programa.executarPrograma(
+      "INSERT INTO Configuracoes (lTamanhoPagina, bitAutenticacao, bitExibirLoginUsuarios, bitImprimirEntrada) "
+      "VALUES (2, 0, 0, 0)");
+  for (const char* linha : {"1, 'Atacado'", "2, 'Consumidor'", "3, 'Revenda'"})
+    programa.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (" + std::string(linha) + ")");
+  auto& tela = dynamic_cast<TelaPaginada&>(programa.telas().obter("frmCadastroCategorias"));
+  tela.ensureLoaded();
+  TestHost& host = programa.hostDeTeste();
+  const auto imprimir = [&] {
+    host.expectScreen("frmOpcoesRelList", [&](Screen& opcoes) {
+      host.expectBox(pergunta("Confirma a impressão?"), BoxAnswer::yes);
+      opcoes.userKey(Key::f5);
+    });
+    tela.userKey(Key::f5);
+    host.verify();
+    return programa.pasta().ler("Cadastro de categorias.txt");
+  };
+  EXPECT_THAT(imprimir(), AllOf(HasSubstr("|Atacado "), HasSubstr("|Consumidor "), Not(HasSubstr("Revenda"))));
+  tela.scrPaginas.userMove(1);
+  EXPECT_THAT(imprimir(), AllOf(HasSubstr("|Revenda "), Not(HasSubstr("Atacado")), Not(HasSubstr("Consumidor"))));
+}
 
 TEST(TelasQueImprimem, AreAllInTheTable) {
   ProgramaDeTeste programa(vRegistrarTelas);

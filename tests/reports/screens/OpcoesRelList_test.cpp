@@ -9,6 +9,7 @@
 #include "app/Registro.h"
 #include "platform/base/Error.h"
 #include "platform/base/Text.h"
+#include "platform/os/Files.h"
 #include "platform/ui/ListView.h"
 #include "reports/screens/frmOpcoesRelList.h"
 #include "shell/services/Telas.h"
@@ -221,6 +222,30 @@ TEST_F(OpcoesRelList, TheTitleIsAskedForBeforeTheColumns) {
   });
 }
 
+TEST_F(OpcoesRelList, OptionsAsAWholeFillTheScreenButForTheDimensioning) {
+  auto& tela = programa.telas().obter<frmOpcoesRelList>("frmOpcoesRelList");
+  OpcoesImpressaoList opcoes;
+  opcoes.vSetTitulo("Categorias");
+  opcoes.vSetList(lst);
+  opcoes.vSetOpcaoDimensionamento(0);
+  tela.vSetOpcoes(opcoes);
+  EXPECT_EQ(tela.txtTitulo.text(), "Categorias");
+  EXPECT_EQ(tela.cmbColunas.text(), "130");
+  EXPECT_EQ(tela.cmbOpcaoDimensionamento.listIndex(), 1);
+  tela.cmbColunas.setListIndex(-1);
+  opcoes.vSetColunas(100);
+  tela.vSetOpcoes(opcoes);
+  EXPECT_EQ(tela.cmbColunas.listIndex(), -1) << "a width that is none of the two";
+  host.expectBox(aviso("Informe o número de colunas."));
+  tela.cmdEmitir.userClick();
+  tela.cmbColunas.userChoose(0);
+  host.expectBox(pergunta("Confirma a impressão?"), BoxAnswer::yes);
+  tela.cmdEmitir.userClick();
+  host.verify();
+  EXPECT_EQ(ler("Categorias.txt"), listagem80("|" + std::string(35, ' ') + "Categorias"))
+      << "by the widths of the list";
+}
+
 TEST_F(OpcoesRelList, ATextIsWrittenBesideTheProgramAndOpened) {
   imprimir();
   EXPECT_EQ(ler("Cadastro de categorias.txt"), listagem80("|                             Cadastro de categorias"));
@@ -256,6 +281,19 @@ TEST_F(OpcoesRelList, ATitleLongerThanTheLineIsCutInTheHeadingButNotInTheName) {
   const std::string titulo = std::string(80, 'a') + "bcd";
   imprimir([&](frmOpcoesRelList& tela) { tela.txtTitulo.userType(titulo); });
   EXPECT_EQ(ler(titulo + ".txt"), listagem80("| " + std::string(77, 'a')));
+}
+
+TEST_F(OpcoesRelList, ALineOf130HasRoomForALongerTitle) {
+  const auto titulo130 = [this](const std::string& titulo) {
+    imprimir([&](frmOpcoesRelList& tela) {
+      tela.txtTitulo.userType(titulo);
+      tela.cmbColunas.userChoose(1);
+    });
+    return files::lines(ler(titulo + ".txt")).at(1);
+  };
+  EXPECT_EQ(titulo130(std::string(100, 'a')),
+            "|" + std::string(15, ' ') + std::string(100, 'a') + std::string(13, ' ') + "|");
+  EXPECT_EQ(titulo130(std::string(140, 'b')), "| " + std::string(127, 'b') + "|");
 }
 
 TEST_F(OpcoesRelList, ATitleLongerThanANameCanBeIsCutInTheNameToo) {
@@ -313,6 +351,10 @@ TEST_F(OpcoesRelList, EnterMovesOnAndTypingCompletes) {
     tela.cmbColunas.select(0, 3);
     tela.cmbColunas.userKeyPress("1");
     EXPECT_EQ(tela.cmbColunas.text(), "130");
+    tela.cmbOpcaoDimensionamento.select(0, 50);
+    tela.cmbOpcaoDimensionamento.userKeyPress("t");
+    EXPECT_EQ(tela.cmbOpcaoDimensionamento.listIndex(), 0);
+    EXPECT_EQ(tela.cmbOpcaoDimensionamento.selectionStart(), 1u);
     tela.userKey(Key::escape);
   });
 }
@@ -413,6 +455,20 @@ TEST_F(OpcoesRelList, APdfIsMadeFromTheTextAndOpenedIfTheClerkWants) {
   EXPECT_THAT(pdf, HasSubstr("/F1 10 Tf\r"));
   EXPECT_THAT(pdf, HasSubstr("/MediaBox [ 0 0 936 792 ]\r"));
   EXPECT_THAT(pdf, HasSubstr("T* (|1        |Revenda"));
+}
+
+TEST_F(OpcoesRelList, TheControlCharactersOf130StandInThePdfToo) {
+  abrir([&](frmOpcoesRelList& tela) {
+    tela.cmbSaida.userChoose(2);
+    tela.cmbColunas.userChoose(1);
+    host.expectBox(pergunta("Confirma a impressão?"), BoxAnswer::yes);
+    host.expectBox(pdfPronto, BoxAnswer::no);
+    tela.userKey(Key::f5);
+  });
+  const std::string pdf = ler("Cadastro de categorias.txt.PDF");
+  const std::string regua = "+" + std::string(128, '-') + "+\r\n) Tj\r";
+  EXPECT_THAT(pdf, HasSubstr("12 TL\rT* (\x0F" + regua + "T* (|"));
+  EXPECT_THAT(pdf, HasSubstr("T* (" + regua + "T* (\x12\r\n) Tj\r1 0 0 1 468 25 Tm\r(1) Tj\r"));
 }
 
 TEST_F(OpcoesRelList, APdfThatDidNotComeAboutIsTold) {

@@ -86,6 +86,28 @@ TEST(Listagem, LinesOf130AreWrappedInTheCharactersOfCondensedMode) {
   EXPECT_EQ(estreita.find_first_of("\x0F\x12"), std::string::npos) << "80 sends no control character";
 }
 
+TEST(Listagem, OnlyLinesOfExactly130AreCondensed) {
+  const ListaDeTeste lista(categorias, duasCategorias);
+  for (const std::int16_t iColunas : std::initializer_list<std::int16_t>{79, 81, 100, 129, 131, 132}) {
+    const std::string bytes = lista.imprimir(iColunas, porLista);
+    EXPECT_EQ(bytes.find_first_of("\x0F\x12"), std::string::npos) << iColunas;
+    EXPECT_THAT(files::lines(bytes), testing::Each(testing::SizeIs(iColunas)));
+  }
+}
+
+TEST(Listagem, AnyOptionButZeroMeansTheListsWidths) {
+  const ListaDeTeste lista(clientes, tresClientes);
+  for (const std::int16_t iOpcao : std::initializer_list<std::int16_t>{2, -1})
+    EXPECT_EQ(lista.imprimir(80, iOpcao, "Clientes"), ouro("lista-80-varias-linhas"));
+}
+
+TEST(Listagem, RecordsBelowAHeadingOfNoLineAreApartToo) {
+  const ListaDeTeste lista({}, {{"1"}, {"2"}});
+  const std::string regua = "+" + std::string(78, '-') + "+";
+  const std::string titulo = "|" + std::string(39, ' ') + "Sem" + std::string(36, ' ') + "|";
+  EXPECT_THAT(linhasDe(lista.imprimir(80, porLista, "Sem")), ElementsAre(regua, titulo, regua, regua, regua, regua));
+}
+
 TEST(Listagem, ARecordOfOneColumnMoreThanTheLineHoldsHasNoRuleBehindIt) {
   const std::vector<ListColumn> tres(clientes.begin(), clientes.begin() + 3);
   const ListaDeTeste lista(tres, {{"1", "Açougue São João Ltda.", "7"},
@@ -263,6 +285,14 @@ TEST(ColunasDaListagem, TheLongestHeadingWidensAllAndSpareCharactersAreShared) {
   EXPECT_EQ(colunas.iGetNumColLinha(), 4) << "4 x 17 + 5 are 73";
   EXPECT_EQ(colunas.iGetTamanhoPadrao(), 18) << "7 are spare: one for each, 3 for the last";
   EXPECT_EQ(colunas.iGetUltimaColuna(), 21);
+}
+
+TEST(ColunasDaListagem, AHeadingIsAsLongAsItsCharacters) {
+  ColunasImpressaoList colunas;
+  colunas.vDimensionarColunas(80, ListaDeTeste({{"ÁÉÍÓÚáéíóúÃÕãõÇçÔ", 1}, {"A", 1}, {"B", 1}, {"C", 1}, {"D", 1}}).lst,
+                              porCabecalho);
+  EXPECT_EQ(colunas.iGetNumColLinha(), 4);
+  EXPECT_EQ(colunas.iGetTamanhoPadrao(), 18);
 }
 
 TEST(ColunasDaListagem, ALineThatWouldBeExactlyFullTakesOneColumnLess) {
