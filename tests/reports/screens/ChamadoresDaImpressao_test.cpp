@@ -4,6 +4,7 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
 
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
@@ -69,6 +70,11 @@ class OpcoesDeTeste final : public Tela, public OpcoesRelatorioLista {
     // Also as it is printed without its rows, by the widths of the list and by the headings: no column as it was
     // designed, and no heading, is wider than the line.
     lst.clear();
+    for (const ListColumn& coluna : lst.columns()) {
+      if (coluna.width > 0) {
+        EXPECT_GE(std::lround(coluna.width / 107.5), length(coluna.heading)) << coluna.heading << " is cut on paper";
+      }
+    }
     OpcoesImpressaoList opcoes;
     opcoes.vSetTitulo(sTitulo);
     opcoes.vSetColunas(iColunas);

@@ -188,6 +188,14 @@ TEST_F(OpcoesRelList, AMemoryThatCannotBeWrittenIsReported) {
               HasSubstr("Formulário: frmOpcoesRelList\r\nFunção: Form_Unload\r\nNúmero do erro: 75\r\n"));
 }
 
+TEST_F(OpcoesRelList, AMemoryThatCannotBeReadChoosesNone) {
+  std::filesystem::create_symlink("/proc/self/mem", caminho("outputRep.XML"));
+  abrir([](frmOpcoesRelList& tela) {
+    EXPECT_EQ(tela.cmbSaida.listIndex(), -1);
+    tela.userKey(Key::escape);
+  });
+}
+
 TEST_F(OpcoesRelList, WithoutTheRightToPrintNothingElseIsChecked) {
   programa.executarPrograma(
       "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
@@ -233,8 +241,10 @@ TEST_F(OpcoesRelList, OptionsAsAWholeFillTheScreenButForTheDimensioning) {
   EXPECT_EQ(tela.cmbColunas.text(), "130");
   EXPECT_EQ(tela.cmbOpcaoDimensionamento.listIndex(), 1);
   tela.cmbColunas.setListIndex(-1);
+  tela.cmbOpcaoDimensionamento.userChoose(0);
   opcoes.vSetColunas(100);
   tela.vSetOpcoes(opcoes);
+  EXPECT_EQ(tela.cmbOpcaoDimensionamento.listIndex(), 1);
   EXPECT_EQ(tela.cmbColunas.listIndex(), -1) << "a width that is none of the two";
   host.expectBox(aviso("Informe o número de colunas."));
   tela.cmdEmitir.userClick();

@@ -6,6 +6,8 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cmath>
+#include <random>
 
 #include "platform/base/Error.h"
 #include "platform/base/Text.h"
@@ -229,6 +231,65 @@ TEST(Listagem, TheBytesLeaveInBlocksHoweverLongTheListIs) {
   });
   EXPECT_EQ(total, 132U * (4 + 3 + 2000 * 3 + 1999 + 1) + 2);
   EXPECT_LE(maior, 66000U);
+}
+
+/// Letters only, so that nothing but them tells a cell from the grid.
+std::string sPalavra(std::mt19937& sorte, std::size_t maximo) {
+  std::string sTexto(sorte() % (maximo + 1), 'a');
+  for (char& letra : sTexto) letra = static_cast<char>('a' + sorte() % 26);
+  return sTexto;
+}
+
+/// What is left of a listing without its grid.
+std::string semGrade(std::string sTexto) { return without(sTexto, "|+- \r\n\x0F\x12"); }
+
+TEST(Listagem, OfAnyListIsAGridThatLosesNothing) {
+  std::mt19937 sorte(11);
+  int iCabem = 0;
+  for (int vez = 0; vez < 400; ++vez) {
+    const std::int16_t iColunas = vez % 2 == 0 ? 80 : 130;
+    const bool bPelaLista = vez % 4 < 2;
+    std::vector<ListColumn> colunas(1 + sorte() % 40);
+    std::size_t maior = 0;
+    for (ListColumn& coluna : colunas) {
+      coluna = {sPalavra(sorte, 20), sorte() % 4 == 0 ? 0.0F : static_cast<float>(sorte() % 5000)};
+      maior = std::max(maior, coluna.heading.size());
+    }
+    // By the widths of the list a text is cut at its column; by the headings nothing is, up to the longest heading.
+    const auto sNaGrade = [&](std::size_t coluna, const std::string& sTexto) {
+      return bPelaLista ? sTexto.substr(0, static_cast<std::size_t>(std::nearbyint(colunas[coluna].width / 107.5)))
+                        : sTexto;
+    };
+    std::string sEsperado = "titulo";
+    for (std::size_t c = 0; c < colunas.size(); ++c) sEsperado += sNaGrade(c, colunas[c].heading);
+    ListaDeTeste::Linhas linhas(sorte() % 5);
+    for (auto& linha : linhas) {
+      for (std::size_t c = 0; c < colunas.size(); ++c) {
+        linha.push_back(sPalavra(sorte, bPelaLista ? 30 : maior));
+        sEsperado += sNaGrade(c, linha.back());
+      }
+    }
+    std::string sTexto;
+    try {
+      sTexto = ListaDeTeste(colunas, linhas).imprimir(iColunas, bPelaLista ? porLista : porCabecalho, "titulo");
+    } catch (const Error& falha) {
+      ASSERT_EQ(falha.number, errors::overflow);
+      continue;
+    }
+    ++iCabem;
+    EXPECT_EQ(semGrade(sTexto), sEsperado) << "seed 11, turn " << vez;
+    std::vector<std::string> grade = files::lines(without(sTexto, "\x0F\x12"));
+    const std::string sRegua = "+" + std::string(static_cast<std::size_t>(iColunas - 2), '-') + "+";
+    for (const std::string& sLinha : grade) {
+      ASSERT_EQ(sLinha.size(), static_cast<std::size_t>(iColunas)) << "seed 11, turn " << vez;
+      // A line without a column has its one bar at the end.
+      const bool bVazia = sLinha.find_first_not_of(' ') == sLinha.size() - 1;
+      EXPECT_TRUE(sLinha == sRegua || (sLinha.back() == '|' && (sLinha.front() == '|' || bVazia))) << sLinha;
+    }
+    EXPECT_EQ(grade.front(), sRegua);
+    EXPECT_EQ(grade.back(), sRegua);
+  }
+  EXPECT_GE(iCabem, 350);
 }
 
 TEST(FerramentasDaListagem, ATextIsCutOrPaddedAndClosed) {
