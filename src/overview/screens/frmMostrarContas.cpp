@@ -50,7 +50,6 @@ frmMostrarContas::frmMostrarContas(Contexto& contexto)
       funcoes_(contexto) {
   setCaption("Gestor Fenvale");
   setTitle("Quadro geral de contas");
-  setNote(formatDate(contexto.relogio().today()));
   std::vector<LayoutNode> partes;
   for (Quadro& quadro : quadros) {
     quadro.lst.onMouseDown = [this](MouseButton botao) { iBotaoMouse = static_cast<std::int16_t>(botao); };
@@ -73,6 +72,7 @@ void frmMostrarContas::vSetMotrarTodas(bool bTodas) { contexto().quadroGeralCont
 
 void frmMostrarContas::onLoad() {
   const Ampulheta ampulheta(funcoes_);
+  setNote(formatDate(contexto().relogio().today()));
   for (Quadro& quadro : quadros) {
     if (!(contexto().quadroGeralContas().*quadro.descricao.bGetMostrar)()) {
       // A tab without anything to show is not there.

@@ -107,7 +107,43 @@ TEST_F(AberturaDoQuadro, WithoutACompanyNeitherTheStartNorTheMenuOpensIt) {
   cenario.programa.empresas().bSetEmpresa(0, "", "", false);
   cenario.programa.pasta().gravar("Empresa.XML", "<root></root>");
   iniciar();
+  EXPECT_TRUE(opcoes().bGetMostrarTodas()) << "nobody has touched what the settings say";
+  opcoes().vSetMotrarTodas(false);
   host.expectBox(aviso("Selecione uma empresa."));
+  janela().mnuPrincipal.userChoose("mnuQuadroGeralContas");
+  EXPECT_FALSE(opcoes().bGetMostrarTodas()) << "a refusal changes nothing";
+}
+
+TEST_F(AberturaDoQuadro, HoweverTheBoardOfTheStartIsClosedTheFlagIsSetBackAndTheWindowFree) {
+  ligar("bitMostrarContasVencidasPagar = -1");
+  const std::function<void(frmMostrarContas&)> maneiras[] = {[](frmMostrarContas& tela) { tela.userKey(Key::escape); },
+                                                             [](frmMostrarContas& tela) { tela.cmdFechar.userClick(); },
+                                                             [](frmMostrarContas& tela) { tela.userClose(); }};
+  for (const auto& fechar : maneiras) {
+    opcoes().vSetMotrarTodas(true);
+    host.expectScreen("frmMostrarContas", [&](Screen& tela) {
+      EXPECT_FALSE(opcoes().bGetMostrarTodas());
+      fechar(dynamic_cast<frmMostrarContas&>(tela));
+    });
+    iniciar();
+    EXPECT_TRUE(opcoes().bGetMostrarTodas());
+    EXPECT_TRUE(janela().enabled());
+    EXPECT_EQ(host.pointer(), Pointer::normal);
+  }
+}
+
+TEST_F(AberturaDoQuadro, TheBoardOfTheStartIsLetGoAndTheMenusIsAnotherWithItsFourTabs) {
+  ligar("bitMostrarContasPagarDia = -1");
+  host.expectScreen("frmMostrarContas", [](Screen& tela) {
+    EXPECT_FALSE(dynamic_cast<frmMostrarContas&>(tela).lstReceberDia.visible());
+    tela.userKey(Key::escape);
+  });
+  iniciar();
+  host.expectScreen("frmMostrarContas", [](Screen& tela) {
+    for (const frmMostrarContas::Quadro& lista : dynamic_cast<frmMostrarContas&>(tela).quadros)
+      EXPECT_TRUE(lista.lst.visible() && lista.lblContas.visible() && lista.cmdEmitir.visible());
+    tela.userKey(Key::escape);
+  });
   janela().mnuPrincipal.userChoose("mnuQuadroGeralContas");
 }
 

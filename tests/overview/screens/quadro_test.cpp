@@ -105,6 +105,16 @@ TEST_F(QuadroTest, ARightClickMarksTheRowAndThenOpensTheMenu) {
   tela.lstPagarDia.userClickRow(0);
 }
 
+TEST_F(QuadroTest, TheMenuOpensOnceForOnePressOfTheRightButton) {
+  umEmCadaLista();
+  auto& tela = quadro();
+  host.expectPopup("mnuPopUp", "");
+  tela.lstPagarDia.userClickRow(0, MouseButton::right);
+  host.verify();
+  tela.lstReceberDia.onItemClick(tela.lstReceberDia.item(0));  // picked without the mouse
+  EXPECT_TRUE(bMarcado(*tela.lstReceberDia.item(0)));
+}
+
 TEST_F(QuadroTest, WhereNoRowIsTheRightButtonOpensNothing) {
   auto& tela = quadro();
   tela.lstPagarDia.userRightClickEmpty();
@@ -145,6 +155,25 @@ TEST_F(QuadroTest, BackFromTheTitleOnlyTheListThatWasClickedIsFilledAnew) {
   EXPECT_THAT(todos(tela), ElementsAre(ElementsAre("P1"), ElementsAre("R1"), ElementsAre("P2"), ElementsAre("R3")));
   EXPECT_THAT(totais(tela), ElementsAre("Total R$ 100,00", "Total R$ 100,00", "Total R$ 100,00", "Total R$ 50,00"));
   EXPECT_EQ(host.pointer(), Pointer::normal);
+}
+
+TEST_F(QuadroTest, AListThatCannotBeFilledAnewIsReportedUnderTheHourglass) {
+  umEmCadaLista();
+  auto& tela = quadro();
+  host.expectPopup("mnuPopUp", "mnuMotrarTitulo");
+  host.expectScreen("frmCadastroTitulosPagar", [&](Screen& titulos) {
+    titulos.unload();
+    cenario.programa.dbEmpresa().Dados().close();
+  });
+  Pointer durante = Pointer::normal;
+  host.then([&] { durante = host.pointer(); });
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  tela.lstPagarVencidas.userClickRow(0, MouseButton::right);
+  EXPECT_EQ(durante, Pointer::hourglass);
+  EXPECT_EQ(host.pointer(), Pointer::normal);
+  EXPECT_THAT(todos(tela), ElementsAre(ElementsAre("P1"), ElementsAre("R1"), IsEmpty(), ElementsAre("R2")));
+  EXPECT_THAT(totais(tela), Each("Total R$ 100,00")) << "the total is written when the list is whole";
+  EXPECT_EQ(tela.state(), Screen::State::loaded);
 }
 
 TEST_F(QuadroTest, TheCursorGoesOnWhereTheSettledTitleStood) {
@@ -272,6 +301,7 @@ TEST_F(QuadroTest, HoweverItIsClosedTheWidthsOfAllFourListsAreKept) {
     fecharPor(tela, modo);
     ASSERT_EQ(tela.state(), Screen::State::unloaded);
     EXPECT_THAT(todos(tela), Each(IsEmpty()));
+    for (const frmMostrarContas::Quadro& lista : tela.quadros) EXPECT_EQ(lista.crcTotal, Currency());
     EXPECT_THAT(pasta.nomes("list"),
                 ElementsAre("frmMostrarContas.lstPagarDia.XML", "frmMostrarContas.lstPagarVencidas.XML",
                             "frmMostrarContas.lstReceberDia.XML", "frmMostrarContas.lstReceberVencidas.XML"));
