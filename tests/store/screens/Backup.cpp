@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 
+#include "access/services/Permissoes.h"
 #include "platform/base/Text.h"
 #include "platform/os/Process.h"
 #include "shell/services/JanelaPrincipal.h"
@@ -19,6 +20,7 @@
 #include "store/screens/frmEmpresaNova.h"
 #include "store/services/Empresas.h"
 #include "support/Caixas.h"
+#include "support/Rodada.h"
 
 namespace fenvale {
 namespace {
@@ -186,6 +188,11 @@ TEST_F(Backup, TheOpenCompanyIsCopiedAndOpenAgain) {
   const auto nomes = programa.pasta().nomes();
   tela([&](frmEmpresaBackup& t) {
     preparar(t);
+    host.then([&] {
+      EXPECT_THAT(nomesDasCopias(), ElementsAre("loja_260315_143207.MDB"));
+      EXPECT_TRUE(programa.empresas().bSelecionouEmpresa(false)) << "all is done when it is said to be";
+      EXPECT_EQ(Pointer::normal, host.pointer());
+    });
     host.expectBox(informacao("Operação concluída."));
     t.userKey(Key::f3);
     EXPECT_EQ("", t.txtNomeArquivo.text());
@@ -209,13 +216,19 @@ TEST_F(Backup, AnotherCompanyIsCopiedAndTheOpenOneClosesAndOpensAllTheSame) {
   tela([this](frmEmpresaBackup& t) {
     preparar(t, 1);
     bool bFechou = false;
-    const Espia espia(t.pbBarrra, [&] { bFechou = bFechou || !programa.dbEmpresa().Dados().isOpen(); });
+    const Espia espia(t.pbBarrra, [&] {
+      if (programa.dbEmpresa().Dados().isOpen()) return;
+      bFechou = true;
+      EXPECT_EQ(Pointer::hourglass, host.pointer());
+    });
     host.expectBox(informacao("Operação concluída."));
     t.userKey(Key::f3);
     EXPECT_TRUE(bFechou);
   });
   EXPECT_TRUE(programa.empresas().bSelecionouEmpresa(false));
+  EXPECT_EQ(1, programa.empresas().lGetCodigo());
   EXPECT_EQ("aberta.MDB", programa.empresas().sGetNomeArquivo());
+  EXPECT_EQ(pasta(), programa.empresas().sGetCaminho());
   EXPECT_THAT(nomesDasCopias(), ElementsAre("outra_260315_143207.MDB"));
 }
 
@@ -227,6 +240,15 @@ TEST_F(Backup, WithNoCompanyOpenNoneIsAfterwards) {
   EXPECT_FALSE(programa.empresas().bSelecionouEmpresa(false));
   EXPECT_EQ(0, programa.empresas().lGetCodigo());
   EXPECT_EQ(sLegendaFechada, programa.janelaPrincipal().sGetLegenda());
+  EXPECT_THAT(nomesDasCopias(), ElementsAre("loja_260315_143207.MDB"));
+}
+
+TEST_F(Backup, AsksForNoRight) {
+  programa.criarEmpresa("loja.MDB");
+  referencia("loja.MDB", pasta());
+  programa.executarPrograma("INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha) VALUES ('Bia', 'BIA', 'x')");
+  programa.permissoes().vSetPermissoes(1);
+  copiar();
   EXPECT_THAT(nomesDasCopias(), ElementsAre("loja_260315_143207.MDB"));
 }
 
@@ -374,6 +396,57 @@ TEST_F(Backup, AFolderThatGoesOnTheWayIsReported) {
   });
   EXPECT_THAT(sRelato, HasSubstr("Descrição do erro: Não foi possível gravar o arquivo " +
                                  copias("loja_260315_143207.MDB") + ": o caminho não existe.\r\n"));
+}
+
+TEST_F(Backup, AFolderThatTakesNoFilesIsReported) {
+  programa.abrirEmpresa();
+  // Not even the machine's owner makes files there.
+  const std::string sRelato = falhar([](frmEmpresaBackup& t) { t.txtCaminho.userType("/sys"); });
+  const std::string sCausa = "Descrição do erro: Não foi possível gravar o arquivo /sys/loja_260315_143207.MDB: ";
+  EXPECT_THAT(sRelato, testing::AnyOf(HasSubstr(sCausa + "permissão negada.\r\n"),
+                                      HasSubstr(sCausa + "o local permite somente leitura.\r\n")));
+}
+
+TEST_F(Backup, AProgramThatIsKilledOnTheWayLeavesNoCopyAndTheNextRunMakesIt) {
+  programa.abrirEmpresa();
+  encher();
+  programa.empresas().vSetUltimaEmpresaSelecionada();
+  programa.dbEmpresa().Dados().close();
+  programa.dbConectar().Dados().close();
+  /// One run that opens the company as the last one left it, and saves.
+  const auto rodar = [this](const std::function<void(frmEmpresaBackup&, TestHost&)>& salvar) {
+    Rodada rodada(programa.pasta(), vRegistrarTelas);
+    rodada.dbConectar().Dados().open();
+    EXPECT_TRUE(rodada.empresas().bSetEmpresaXML());
+    rodada.hostDeTeste().expectScreen("frmEmpresaBackup", [&](Screen& aberta) {
+      auto& t = dynamic_cast<frmEmpresaBackup&>(aberta);
+      preparar(t);
+      salvar(t, rodada.hostDeTeste());
+      t.unload();
+    });
+    rodada.hostDeTeste().showModal(rodada.telas().obter("frmEmpresaBackup"));
+  };
+  const pid_t morta = ::fork();
+  if (morta == 0) {
+    rodar([](frmEmpresaBackup& t, TestHost&) {
+      const Espia espia(t.pbBarrra, [&] {
+        if (t.pbBarrra.value() > 300) ::kill(::getpid(), SIGKILL);
+      });
+      t.userKey(Key::f3);
+    });
+    ::_exit(1);
+  }
+  int iEstado = 0;
+  ::waitpid(morta, &iEstado, 0);
+  ASSERT_TRUE(WIFSIGNALED(iEstado));
+  ASSERT_THAT(nomesDasCopias(), ElementsAre(testing::StartsWith("loja_260315_143207.MDB.novo-")));
+
+  rodar([](frmEmpresaBackup& t, TestHost& outro) {
+    outro.expectBox(informacao("Operação concluída."));
+    t.userKey(Key::f3);
+    outro.verify();
+  });
+  EXPECT_THAT(cidadesDe(copias("loja_260315_143207.MDB")), ElementsAre("Londrina", "São Paulo"));
 }
 
 TEST_F(Backup, ADiskThatTakesNoMoreIsReportedAndTheCompanyIsAsItWas) {

@@ -1,6 +1,8 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include <filesystem>
+
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
 #include "platform/os/Process.h"
@@ -81,10 +83,24 @@ TEST_F(Abrir, WithoutATickItIsRefused) {
   });
 }
 
+TEST_F(Abrir, ARowWhoseCodeIsNotAboveZeroCountsAsNone) {
+  programa.abrirEmpresa("aberta.MDB");
+  programa.executarPrograma("INSERT INTO Empresas (lCodigo, sNomeArquivo, sCaminho) VALUES (0, 'a.MDB', '/z/')");
+  tela([this](frmEmpresaAbrir& t) {
+    ASSERT_EQ("00000", t.lstLista.item(0)->text());
+    t.lstLista.userClickRow(0);
+    host.expectBox(aviso("Selecione uma empresa.", "Norvane sistemas"));
+    t.userKey(Key::f3);
+    EXPECT_TRUE(t.lstLista.hasFocus());
+  });
+  EXPECT_TRUE(programa.empresas().bSelecionouEmpresa(false)) << "the open one stays open";
+}
+
 TEST_F(Abrir, AnUpToDateCompanyIsAnnouncedOnceAndTheScreenCloses) {
   comDados("loja.MDB");
   tela([this](frmEmpresaAbrir& t) {
     t.lstLista.userClickRow(0);
+    host.then([this] { EXPECT_EQ(Pointer::hourglass, host.pointer()); });
     host.expectBox(informacao("Empresa selecionada com sucesso."));
     t.userKey(Key::f3);
     EXPECT_EQ(Screen::State::unloaded, t.state());
@@ -141,6 +157,7 @@ TEST_F(Abrir, WithoutItsDataTheCompanyAsksForThemUntilTheyAreThere) {
 }
 
 TEST_F(Abrir, ARowFollowsAFileThatWasMoved) {
+  referencia("outra.MDB", "/velho/");
   referencia("loja.MDB", "/velho/");
   programa.pasta().gravar("novo/casa.MDB", "x");
   tela([this](frmEmpresaAbrir& t) {
@@ -150,9 +167,23 @@ TEST_F(Abrir, ARowFollowsAFileThatWasMoved) {
         pergunta("O registro loja.MDB será autalizado para\r\n" + pasta() + "novo/casa.MDB\r\nConfirma a operação?"),
         BoxAnswer::yes);
     t.lstLista.userClickRow(0, MouseButton::right);
-    EXPECT_THAT(linhas(t.lstLista), ElementsAre("00001 casa.MDB " + pasta() + "novo/"));
+    EXPECT_THAT(linhas(t.lstLista), ElementsAre("00002 casa.MDB " + pasta() + "novo/", "00001 outra.MDB /velho/"));
   });
-  EXPECT_THAT(referencias(), ElementsAre(ElementsAre("casa.MDB", pasta() + "novo/")));
+  EXPECT_THAT(referencias(),
+              ElementsAre(ElementsAre("outra.MDB", "/velho/"), ElementsAre("casa.MDB", pasta() + "novo/")));
+}
+
+TEST_F(Abrir, AFileWhoseFolderGoesBeforeItIsTakenIsRefused) {
+  referencia("loja.MDB", "/velho/");
+  programa.pasta().gravar("novo/casa.MDB", "x");
+  tela([this](frmEmpresaAbrir& t) {
+    host.expectPopup("mnuPopUp", "mnuEditarEmpresa");
+    esperarArquivo(programa.pasta().arquivo("novo"), "casa.MDB", "*.MDB",
+                   [this] { std::filesystem::remove_all(programa.pasta().arquivo("novo")); });
+    host.expectBox(aviso("O caminho\r\n" + pasta() + "novo/\r\né inválido."));
+    t.lstLista.userClickRow(0, MouseButton::right);
+  });
+  EXPECT_THAT(referencias(), ElementsAre(ElementsAre("loja.MDB", "/velho/")));
 }
 
 TEST_F(Abrir, EditingWithoutAFileOrAgainstOnesWillChangesNothing) {
@@ -244,6 +275,9 @@ TEST_F(Nova, ChecksComeInTheirOrder) {
     t.userKey(Key::f3);
     EXPECT_EQ("/nada/", t.txtCaminho.text());
     EXPECT_TRUE(t.drvArvoreDiretorios.hasFocus());
+    t.txtCaminho.userType("\\nada\\");
+    host.expectBox(aviso("O caminho informado \r\n\r\n\\nada\\\r\n\r\nnão existe."));
+    t.userKey(Key::f3);
     t.txtCaminho.userType(programa.pasta().caminho());
     host.expectBox(aviso(pasta() + "ja.MDB\r\n\r\nO arquivo já existe no local especificado."));
     t.userKey(Key::f3);
@@ -263,6 +297,21 @@ TEST_F(Nova, AnOldReferenceIsRemovedWhenTheUserWantsIt) {
   });
   EXPECT_THAT(referencias(), ElementsAre(ElementsAre("loja.MDB", pasta())));
   EXPECT_TRUE(programa.pasta().existe("loja.MDB"));
+}
+
+TEST_F(Nova, AllReferencesOfThatNameAreRemovedWhateverTheirFolder) {
+  referencia("loja.MDB", pasta());
+  referencia("loja.MDB", "/outra/");
+  referencia("filial.MDB", pasta());
+  tela([this](frmEmpresaNova& t) {
+    preencher(t, "loja");
+    host.expectBox(pergunta("Já existe uma referência para a empresa loja.MDB.\r\nDeseja remover essa referência e "
+                            "criar um novo arquivo?"),
+                   BoxAnswer::yes);
+    host.expectBox(informacao("Empresa criada com sucesso."));
+    t.userKey(Key::f3);
+  });
+  EXPECT_THAT(referencias(), ElementsAre(ElementsAre("filial.MDB", pasta()), ElementsAre("loja.MDB", pasta())));
 }
 
 TEST_F(Nova, AnOldReferenceThatStaysAsksForAnotherName) {
@@ -330,6 +379,27 @@ TEST_F(Nova, AnExistingFileBecomesKnown) {
   });
 }
 
+TEST_F(Nova, AgainstOnesWillOrTwiceAnExistingFileDoesNotBecomeKnown) {
+  programa.pasta().gravar("sub/casa.MDB", "x");
+  const auto caixa = pergunta("O arquivo " + pasta() +
+                              "sub/casa.MDB será incluído no sistema, criando referência a uma nova empresa.\r\n"
+                              "Confirma a operação?");
+  tela([&](frmEmpresaNova& t) {
+    esperarArquivo(programa.pasta().arquivo("sub"), "casa.MDB");
+    host.expectBox(caixa, BoxAnswer::no);
+    t.userKey(Key::f6);
+    EXPECT_THAT(linhas(t.lstLista), IsEmpty());
+    referencia("casa.MDB", pasta() + "sub/");
+    esperarArquivo(programa.pasta().arquivo("sub"), "casa.MDB");
+    host.expectBox(caixa, BoxAnswer::yes);
+    EXPECT_THROW(t.userKey(Key::f6), TestHost::Unexpected);
+    EXPECT_THAT(host.boxes().back().text, testing::StartsWith("Os dados informados já existem no sistema.\r\n\r\n"
+                                                              "Informação detalhada: "));
+    EXPECT_EQ(BoxStyle::exclamation, host.boxes().back().style);
+  });
+  EXPECT_EQ(1u, referencias().size());
+}
+
 TEST_F(Nova, WithoutARowTheMenuOnlyOffersToFindACompany) {
   referencia("casa.MDB", pasta());
   tela([this](frmEmpresaNova& t) {
@@ -356,6 +426,7 @@ TEST_F(Nova, NoFileToKnowIsTold) {
 TEST_F(Nova, AReferenceIsRemovedAndItsFileStays) {
   programa.pasta().gravar("casa.MDB", "x");
   referencia("casa.MDB", pasta());
+  referencia("outra.MDB", pasta());
   const auto caixa = pergunta(
       "A referência ao registro casa.MDB será removida do sistema.\r\nConfirma a operação?\r\nObservação: apenas a "
       "referência será removida.\r\nO arquivo continuará no seu local atual, podendo ser referenciado novamente mais "
@@ -364,13 +435,13 @@ TEST_F(Nova, AReferenceIsRemovedAndItsFileStays) {
     host.expectPopup("mnuPopUp", "mnuExcluirEmpresa");
     host.expectBox(caixa, BoxAnswer::no);
     t.lstLista.userClickRow(0, MouseButton::right);
-    EXPECT_EQ(1u, referencias().size());
+    EXPECT_EQ(2u, referencias().size());
     host.expectPopup("mnuPopUp", "mnuExcluirEmpresa");
     host.expectBox(caixa, BoxAnswer::yes);
     t.lstLista.userClickRow(0, MouseButton::right);
-    EXPECT_THAT(linhas(t.lstLista), IsEmpty());
+    EXPECT_THAT(linhas(t.lstLista), ElementsAre("00002 outra.MDB " + pasta()));
   });
-  EXPECT_THAT(referencias(), IsEmpty());
+  EXPECT_THAT(referencias(), ElementsAre(ElementsAre("outra.MDB", pasta())));
   EXPECT_TRUE(programa.pasta().existe("casa.MDB"));
 }
 

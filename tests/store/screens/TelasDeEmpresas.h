@@ -32,15 +32,20 @@ class TelasDeEmpresas : public testing::Test {
     host.verify();
     return codigo;
   }
-  /// The file finder comes up and this file of that folder is picked.
-  void esperarArquivo(const std::string& pasta, const std::string& arquivo, const std::string& padrao = "*.MDB") {
-    host.expectScreen("frmLocalizarArquivo", [pasta, arquivo, padrao](Screen& aberta) {
+  /// The file finder comes up and this file of that folder is picked; `depois` is done once it is.
+  void esperarArquivo(const std::string& pasta, const std::string& arquivo, const std::string& padrao = "*.MDB",
+                      const std::function<void()>& depois = {}) {
+    host.expectScreen("frmLocalizarArquivo", [pasta, arquivo, padrao, depois](Screen& aberta) {
       auto& tela = dynamic_cast<frmLocalizarArquivo&>(aberta);
       EXPECT_EQ(padrao, tela.flstListaArquivos.pattern());
       tela.drvArvoreDiretorios.userChoose(pasta);
       tela.userKey(Key::f6);
       for (std::size_t i = 0; i < tela.lstLista.items().size(); ++i)
-        if (tela.lstLista.item(i)->text() == pasta + "/" + arquivo) return tela.lstLista.userClickRow(i);
+        if (tela.lstLista.item(i)->text() == pasta + "/" + arquivo) {
+          tela.lstLista.userClickRow(i);
+          if (depois) depois();
+          return;
+        }
       FAIL() << arquivo << " was not found";
     });
   }
