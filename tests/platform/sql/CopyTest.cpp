@@ -1,16 +1,42 @@
 // Copies of stores: true, whole, sound, or not there at all.
 
+#include <fcntl.h>
 #include <grp.h>
 #include <signal.h>
 #include <sqlite3.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <unistd.h>
 
+#include <filesystem>
 #include <fstream>
 
 #include "platform/sql/FaultyFiles.h"
 #include "platform/sql/OtherPrograms.h"
 #include "platform/sql/StoreFixture.h"
+
+namespace {
+
+/// What goes to the disk for good, and what gets a name, in its sequence; nothing is noted while this is null.
+std::vector<std::string>* diskDiary = nullptr;
+
+void note(std::string happening) {
+  if (diskDiary != nullptr && (diskDiary->empty() || diskDiary->back() != happening))
+    diskDiary->push_back(std::move(happening));
+}
+
+}  // namespace
+
+// These stand before the system's own in this program, and do the same.
+extern "C" int fsync(int descriptor) {
+  const std::filesystem::path link = "/proc/self/fd/" + std::to_string(descriptor);
+  if (diskDiary != nullptr) note("flush " + std::filesystem::read_symlink(link).filename().string().substr(0, 20));
+  return static_cast<int>(::syscall(SYS_fsync, descriptor));
+}
+extern "C" int link(const char* from, const char* to) noexcept {
+  note("name " + std::filesystem::path(to).filename().string());
+  return static_cast<int>(::syscall(SYS_linkat, AT_FDCWD, from, AT_FDCWD, to, 0));
+}
 
 namespace fenvale::test {
 namespace {
@@ -102,6 +128,17 @@ TEST_F(Copies, TellHowFarTheyAreUntilAllIsDone) {
   EXPECT_GT(told.size(), 8u);
   EXPECT_TRUE(std::is_sorted(told.begin(), told.end()));
   EXPECT_EQ(told.back(), last);
+}
+
+TEST_F(Copies, AreOnTheDiskBeforeTheyAreReadBackAndHaveTheirNameLast) {
+  std::vector<std::string> diary;
+  diskDiary = &diary;
+  copy([&](std::int64_t done, std::int64_t whole) {
+    if (done >= whole / 3) note(done < whole ? "read" : "done");
+  });
+  diskDiary = nullptr;
+  EXPECT_THAT(diary, ElementsAre("flush loja_260315.MDB.novo", "read", "flush loja_260315.MDB.novo",
+                                 "name loja_260315.MDB", "flush copias", "done"));
 }
 
 TEST_F(Copies, NeverTakeThePlaceOfAFile) {
