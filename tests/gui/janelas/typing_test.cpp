@@ -351,5 +351,19 @@ TEST_F(Controles, TheTimerTicksWhileItsWindowStands) {
   EXPECT_EQ(ticks, 1);
 }
 
+TEST_F(Controles, OnlyTheBoxWithTheFocusIsMarkedAlsoInAWindowThatWaitsToBeActive) {
+  QWidget other;
+  other.show();
+  other.activateWindow();
+  QCoreApplication::processEvents();
+  ASSERT_FALSE(windowOf(tela)->isActiveWindow());
+  tela.txtValor.setFocus();
+  tela.dtVencimento.setFocus();
+  tela.txtTexto.setFocus();
+  EXPECT_FALSE(widget<QLineEdit>(tela.txtValor).hasSelectedText());
+  EXPECT_FALSE(widget<QLineEdit>(tela.dtVencimento).hasSelectedText());
+  EXPECT_EQ(widget<QLineEdit>(tela.txtTexto).selectedText(), "Açougue São João Ltda.");
+}
+
 }  // namespace
 }  // namespace fenvale::qt

@@ -61,6 +61,18 @@ TEST_F(Janelas, ABoxShowsItsTitleTextAndPortugueseButtons) {
   EXPECT_EQ(host.openBox(), nullptr);
 }
 
+TEST_F(Janelas, AfterABoxTheWindowBelowIsTheActiveOneAgain) {
+  Pequena tela(host);
+  host.show(tela);
+  tela.txtNome.setFocus();
+  ASSERT_TRUE(widgetOf(tela.txtNome)->hasFocus());
+  whenOpened(host, [this] { press(host, Qt::Key_Return); });
+  host.messageBox(aviso);
+  host.doEvents();
+  EXPECT_TRUE(widgetOf(tela.txtNome)->hasFocus());
+  tela.unload();
+}
+
 TEST_F(Janelas, ABoxWithOneButtonAnswersOkHoweverItIsLeft) {
   whenOpened(host, [this] { press(host, Qt::Key_Escape); });
   EXPECT_EQ(host.messageBox(aviso), BoxAnswer::ok);

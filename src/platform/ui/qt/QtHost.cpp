@@ -121,6 +121,8 @@ BoxAnswer QtHost::messageBox(const MessageBox& box) {
   const auto leave = [&](QWidget*) {
     std::erase(boxes_, &window);
     std::erase(stack_, &window);
+    window.hide();
+    if (QWidget* const top = topWindow()) top->activateWindow();
   };
   const std::unique_ptr<QWidget, decltype(leave)> leaving(&window, leave);
   QEventLoop loop;

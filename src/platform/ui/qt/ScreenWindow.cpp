@@ -6,6 +6,7 @@
 #include <QGuiApplication>
 #include <QHBoxLayout>
 #include <QLabel>
+#include <QLineEdit>
 #include <QPaintEvent>
 #include <QPainter>
 #include <QPointer>
@@ -273,6 +274,8 @@ void ScreenWindow::giveFocus(Control& control) {
   QWidget& widget = binding->widget();
   for (const BuiltLayout::Group& group : built_.groups)
     if (group.tabs != nullptr && group.page->isAncestorOf(&widget)) group.tabs->setCurrentWidget(group.page);
+  // A window that is not yet the active one tells no box that the focus left it: what was marked there would stay so.
+  if (auto* const left = qobject_cast<QLineEdit*>(focusWidget()); left != nullptr && left != &widget) left->deselect();
   widget.setFocus(Qt::OtherFocusReason);
   bringIntoView(widget);
   // A box that is given the focus is to be typed over, also when it had the focus: a new record proposes its code.
