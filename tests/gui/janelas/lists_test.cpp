@@ -143,6 +143,34 @@ TEST_F(Listas, FortyThousandRowsAreAtHandInAMoment) {
   EXPECT_EQ(tela.lstLista.selectedItem(), tela.lstLista.item(39999));
 }
 
+TEST_F(Listas, TheScrollBarGoesWithTheRowsThatNeededIt) {
+  const QScrollBar& bar = *view().verticalScrollBar();
+  ASSERT_TRUE(bar.isVisible());
+  tela.lstLista.clear();
+  tela.preencherLista(1);
+  host.doEvents();
+  EXPECT_FALSE(bar.isVisible());
+}
+
+TEST_F(Listas, ATextInTheLastColumnRunsOnIntoTheRoomThatIsLeft) {
+  auto& list = widget<QTreeView>(tela.lstVazia);
+  widget<QTreeView>(tela.lstVazia).setFocus();
+  windowOf(tela)->resize(1000, 700);
+  tela.lstVazia.setColumns({{"Código", 1200}, {"Nome", 1500}});
+  const auto item = tela.lstVazia.addItem("000001", "1");
+  const auto drawn = [&](const std::string& name) {
+    item->setSubItem(1, name);
+    host.doEvents();
+    return list.grab().toImage();
+  };
+  const std::string begin = "Comércio de Tecidos ";
+  EXPECT_NE(drawn(begin + "Dois"), drawn(begin + "Três")) << "both are wider than the column";
+  tela.lstVazia.setColumns({{"Código", 1200}, {"Nome", 1500}, {"Cidade", 1500}});
+  EXPECT_EQ(drawn(begin + "Dois"), drawn(begin + "Três")) << "but not into the next column";
+  tela.lstVazia.setColumns({{"Código", 1200}, {"Nome", 1500}, {"Chave", 0}});
+  EXPECT_NE(drawn(begin + "Dois"), drawn(begin + "Três")) << "a hidden column is none";
+}
+
 TEST_F(Listas, AnEmptyListSaysSo) {
   tela.lstVazia.setFocus();
   QCoreApplication::processEvents();
@@ -166,6 +194,20 @@ TEST_F(Controles, TreeTicksReachTheControlAndComeBack) {
   EXPECT_EQ(tree.topLevelItem(0)->child(0)->checkState(0), Qt::Unchecked);
   key(Qt::Key_Space);
   EXPECT_THAT(keys, ElementsAre("p0", "c0"));
+}
+
+TEST_F(Controles, AFolderWithoutFilesSaysSo) {
+  const QTemporaryDir place;
+  tela.flstArquivos.setPath(place.path().toStdString());
+  tela.flstArquivos.setFocus();
+  host.doEvents();
+  auto& files = widget<QListWidget>(tela.flstArquivos);
+  ASSERT_EQ(files.count(), 0);
+  const QImage shown = files.viewport()->grab().toImage();
+  const QColor ground = host.theme().tokens().base;
+  bool written = false;
+  for (int x = 0; x < shown.width(); ++x) written = written || shown.pixelColor(x, shown.height() / 2) != ground;
+  EXPECT_TRUE(written);
 }
 
 TEST_F(Controles, FoldersAndFilesArePicked) {

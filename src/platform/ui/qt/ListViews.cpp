@@ -2,6 +2,7 @@
 // key, or Shift+F10, is the right button; Ctrl+O offers the headings to sort by.
 
 #include <QClipboard>
+#include <QCoreApplication>
 #include <QGuiApplication>
 #include <QHeaderView>
 #include <QHelpEvent>
@@ -46,8 +47,8 @@ float twipsOf(int pixels) { return static_cast<float>(pixels * twipsPerPixel); }
 /// Draws one cell: the row's mark (bold, colour), the tick, the text.
 class RowDelegate final : public QStyledItemDelegate {
  public:
-  RowDelegate(const QtHost& host, const ListRows& rows, QObject* parent)
-      : QStyledItemDelegate(parent), host_(host), rows_(rows) {}
+  RowDelegate(const QtHost& host, const ListRows& rows, QTreeView& view)
+      : QStyledItemDelegate(&view), view_(view), host_(host), rows_(rows) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const ListItem* const item = rows_.item(index.row());
@@ -56,6 +57,7 @@ class RowDelegate final : public QStyledItemDelegate {
     const bool enabled = (option.state & QStyle::State_Enabled) != 0;
     painter->save();
     QRectF place = QRectF(option.rect).adjusted(cellMargin, 0, -cellMargin, 0);
+    place.setWidth(roomFor(index, option.rect) - 2 * cellMargin);
     const QVariant tick = index.data(Qt::CheckStateRole);
     if (tick.isValid()) {
       painter->setRenderHint(QPainter::Antialiasing);
@@ -71,15 +73,28 @@ class RowDelegate final : public QStyledItemDelegate {
   QSize sizeHint(const QStyleOptionViewItem&, const QModelIndex&) const override {
     return {0, std::max(measures::rowHeight, QFontMetrics(host_.theme().baseFont()).height() + 7)};
   }
-  bool cut(const QModelIndex& index, int width) const {
+  bool cut(const QModelIndex& index, const QRect& cell) const {
     const ListItem* const item = rows_.item(index.row());
     if (item == nullptr) return false;
     const QFont font = item->bold() ? host_.theme().strongFont() : host_.theme().baseFont();
     const int tick = index.data(Qt::CheckStateRole).isValid() ? tickWidth : 0;
-    return cellTextWidth(font, rows_.text(index.row(), index.column())) > width - 2 * cellMargin - tick;
+    return cellTextWidth(font, rows_.text(index.row(), index.column())) > roomFor(index, cell) - 2 * cellMargin - tick;
   }
 
  private:
+  /// A text in the last column runs on into what is left of the list.
+  int roomFor(const QModelIndex& index, const QRect& cell) const {
+    const bool left = (rows_.alignment(index.column()) & Qt::AlignLeft) != 0;
+    const int rest = view_.viewport()->width() - cell.x();
+    return left && isLastShown(index.column()) ? std::max(cell.width(), rest) : cell.width();
+  }
+  bool isLastShown(int column) const {
+    for (int after = column + 1; after < rows_.columnCount(); ++after)
+      if (!view_.isColumnHidden(after)) return false;
+    return true;
+  }
+
+  const QTreeView& view_;
   const QtHost& host_;
   const ListRows& rows_;
 };
@@ -135,6 +150,11 @@ class RowsView final : public QTreeView {
     setMouseTracking(true);
   }
   Headings& headings() const { return static_cast<Headings&>(*header()); }
+  /// At once, not in the next turn: until then the scroll bar would be that of the rows before.
+  void layOut() {
+    executeDelayedItemsLayout();
+    QCoreApplication::sendPostedEvents(this, QEvent::MetaCall);
+  }
   std::function<void(int row)> cursorMoved;
   std::function<void(int row, MouseButton button)> clickedRow;
   std::function<void()> clickedNowhere;  ///< the right button, or the menu key, where no row is
@@ -202,7 +222,7 @@ class RowsView final : public QTreeView {
       const auto& help = static_cast<QHelpEvent&>(*event);
       const QModelIndex index = indexAt(help.pos());
       const auto* const delegate = static_cast<const RowDelegate*>(itemDelegate());
-      const bool cut = index.isValid() && delegate->cut(index, columnWidth(index.column()));
+      const bool cut = index.isValid() && delegate->cut(index, visualRect(index));
       QToolTip::showText(help.globalPos(), cut ? index.data().toString() : toolTip(), this);
       return true;
     }
@@ -244,7 +264,7 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
     later_->setInterval(0);
     connect(later_, &QTimer::timeout, this, [this] { showRows(); });
     view.setModel(rows_);
-    view.setItemDelegate(new RowDelegate(host, *rows_, &view));
+    view.setItemDelegate(new RowDelegate(host, *rows_, view));
     view.ticks = control.hasCheckBoxes();
     listen();
     refreshAll();
@@ -344,7 +364,9 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
       headings.viewport()->update();
     }
     const Showing showing(showing_);
-    if (rows_->catchUp()) showCursor();
+    if (!rows_->catchUp()) return;
+    view().layOut();
+    showCursor();
   }
   void showCursor() {
     const Showing showing(showing_);

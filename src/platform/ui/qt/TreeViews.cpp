@@ -174,6 +174,23 @@ class FolderBinding final : public BindingOf<FolderTree, QTreeWidget> {
   QTreeWidgetItem* above_ = nullptr;
 };
 
+class FilesView final : public QListWidget {
+ public:
+  explicit FilesView(const Theme& theme) : theme_(theme) {}
+
+ protected:
+  void paintEvent(QPaintEvent* event) override {
+    QListWidget::paintEvent(event);
+    if (count() > 0) return;
+    QPainter painter(viewport());
+    painter.setPen(theme_.tokens().muted);
+    painter.drawText(viewport()->rect(), Qt::AlignCenter, QStringLiteral("Nenhum arquivo"));
+  }
+
+ private:
+  const Theme& theme_;
+};
+
 class FilesBinding final : public BindingOf<FileList, QListWidget> {
  public:
   FilesBinding(QtHost& host, FileList& control, QListWidget& list) : BindingOf(host, control, list) {
@@ -219,7 +236,7 @@ Binding& render(DriveList& control, QtHost& host) {
 Binding& render(FolderTree& control, QtHost& host) { return *new FolderBinding(host, control, *newTree()); }
 
 Binding& render(FileList& control, QtHost& host) {
-  auto* const list = new QListWidget;
+  auto* const list = new FilesView(host.theme());
   list->setTabKeyNavigation(false);
   list->setIconSize({measures::icon, measures::icon});
   list->setMinimumHeight(6 * measures::rowHeight);
