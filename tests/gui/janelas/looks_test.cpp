@@ -183,6 +183,10 @@ TEST_P(Esquemas, TextReadsWellOnEveryGround) {
   }
   for (const QColor& ground : {t.window, t.band, t.base, t.alternate})
     EXPECT_GE(contrast(t.muted, ground), 4.5) << ground.name().toStdString();
+  for (const QColor& ground : {t.window, t.band, t.base})
+    EXPECT_GE(contrast(t.disabledText, ground), 3.0) << "what is out of use can still be read";
+  EXPECT_GE(contrast(t.text, t.locked), 4.5);
+  EXPECT_GE(contrast(t.base, t.locked), 1.1) << "a box that only shows looks unlike one to write in";
   EXPECT_GE(contrast(t.onAccent, t.accent), 4.5);
   EXPECT_GE(contrast(t.onAccent, t.accentHover), 4.5);
   EXPECT_GE(contrast(t.accent, t.window), 3.0) << "the outline of the focus";

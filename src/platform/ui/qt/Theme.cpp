@@ -21,12 +21,13 @@ Tokens lightTokens() {
   t.accent = QColor(0x0b6e4f);
   t.onAccent = QColor(0xffffff);
   t.lookup = QColor(0xe6f1ed);
+  t.locked = QColor(0xeef2f1);
   t.danger = QColor(0xc00000);
   t.cursor = QColor(0xdceae5);
   t.hover = QColor(0xf0f5f3);
   t.pressed = QColor(0xe0e9e6);
   t.accentHover = QColor(0x095c42);
-  t.disabledText = QColor(0x97a39f);
+  t.disabledText = QColor(0x808c88);
   t.thumb = QColor(0xb9c5c1);
   return t;
 }
@@ -43,12 +44,13 @@ Tokens darkTokens() {
   t.accent = QColor(0x3fb68b);
   t.onAccent = QColor(0x0d1513);
   t.lookup = QColor(0x27392f);
+  t.locked = QColor(0x1c2120);
   t.danger = QColor(0xff7b72);
   t.cursor = QColor(0x2a3b35);
   t.hover = QColor(0x2c3432);
   t.pressed = QColor(0x343e3b);
   t.accentHover = QColor(0x55c79d);
-  t.disabledText = QColor(0x66726e);
+  t.disabledText = QColor(0x6f7b77);
   t.thumb = QColor(0x4f5b57);
   return t;
 }
@@ -77,7 +79,7 @@ QPlainTextEdit { padding: 3px 4px; }
 QLineEdit:focus, QPlainTextEdit:focus, QComboBox:focus { border: 2px solid @accent; padding: 0 7px; min-height: 24px; }
 QPlainTextEdit:focus { padding: 2px 3px; }
 QLineEdit[lookup="true"] { background: @lookup; }
-QLineEdit[locked="true"], QPlainTextEdit[locked="true"] { background: @band; }
+QLineEdit[locked="true"], QPlainTextEdit[locked="true"] { background: @locked; }
 QLineEdit:disabled, QPlainTextEdit:disabled, QComboBox:disabled { background: @window; color: @disabledText; }
 QLineEdit[wrong="true"], QPlainTextEdit[wrong="true"], QComboBox[wrong="true"] {
   border: 2px solid @danger; padding: 0 7px; min-height: 24px; }
@@ -112,7 +114,7 @@ QPushButton[square="true"]:focus { padding: 0; min-height: 24px; min-width: 24px
 QToolButton#inner { border: 0; border-radius: 4px; background: transparent; padding: 2px; }
 QToolButton#inner:hover { background: @pressed; }
 
-QCheckBox, QRadioButton { color: @text; spacing: 7px; min-height: 26px; padding-left: 2px; border: 0; }
+QCheckBox, QRadioButton { color: @text; spacing: 7px; min-height: 26px; border: 0; }
 QCheckBox:disabled, QRadioButton:disabled { color: @disabledText; }
 
 QGroupBox { border: 1px solid @line; border-radius: 6px; margin-top: 9px; padding: 8px 0 0 0; }
@@ -139,7 +141,7 @@ QListWidget::item:selected, QTreeView::item:selected { background: @cursor; colo
 QHeaderView { background: @band; border: 0; border-top-left-radius: 5px; border-top-right-radius: 5px; }
 QHeaderView::section {
   background: transparent; color: @muted; border: 0; border-right: 1px solid @line; border-bottom: 1px solid @line;
-  padding: 0 6px; min-height: 28px; }
+  padding: 0 6px 0 7px; min-height: 28px; }
 QHeaderView::section:hover { color: @text; background: @hover; }
 QHeaderView::section:last { border-right-color: transparent; }
 
@@ -253,6 +255,7 @@ QString Theme::styleSheet() const {
       {"@muted", t.muted},
       {"@line", t.line},
       {"@lookup", t.lookup},
+      {"@locked", t.locked},
       {"@danger", t.danger},
       {"@cursor", t.cursor},
       {"@hover", t.hover},

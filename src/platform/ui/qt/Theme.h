@@ -15,6 +15,7 @@ struct Tokens {
   QColor text, muted, line;
   QColor accent, onAccent;
   QColor lookup;   ///< boxes that are filled by a search
+  QColor locked;   ///< boxes that only show
   QColor danger;   ///< the selected row, negative money, the outline of a wrong field
   QColor cursor;   ///< the row under the keyboard's cursor
   QColor hover;    ///< a plain button under the mouse
