@@ -37,7 +37,7 @@ void TelaControles::dispor() {
            quadro("Busca, valores e datas",
                   {linha({campo("Ci&dade", txtCidade, 8, {&cmdLocalizarCidade, &cmdNovaCidade}),
                           campo("&Valor", txtValor, 4), campo("Valor calculado", txtValorTravado, 4),
-                          campo("Ven&cimento", dtVencimento, 4), campo("Mês", cmbMes, cresce)})}),
+                          campo("Vencimento", dtVencimento, 4), campo("Mês", cmbMes, cresce)})}),
            linha({quadro("Situação", {linha({solto(optTodos), solto(optPagos), solto(optAbertos)})}, 10),
                   quadro("Escolhas", {linha({solto(chkManter), solto(chkMarcado), solto(chkDesabilitado)})})}),
            linha({campo("&Observações", txtLinhas, 12),

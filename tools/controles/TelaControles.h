@@ -36,10 +36,10 @@ class TelaControles final : public Screen {
   MoneyBox txtValorTravado{*this, "txtValorTravado"};
   DatePicker dtVencimento{*this, "dtVencimento"};
   ComboBox cmbMes{*this, "cmbMes"};
-  CheckBox chkManter{*this, "chkManter", "&Manter os títulos da fatura atual"};
+  CheckBox chkManter{*this, "chkManter", "Manter os títulos da fatura atual"};
   CheckBox chkMarcado{*this, "chkMarcado", "Marcado"};
   CheckBox chkDesabilitado{*this, "chkDesabilitado", "Desabilitado"};
-  OptionButton optTodos{*this, "optTodos", "&Todos"};
+  OptionButton optTodos{*this, "optTodos", "Todos"};
   OptionButton optPagos{*this, "optPagos", "&Pagos"};
   OptionButton optAbertos{*this, "optAbertos", "Em &aberto"};
   Label lblAjuda{*this, "lblAjuda",

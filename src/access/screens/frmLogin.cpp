@@ -26,7 +26,7 @@ frmLogin::frmLogin(Contexto& contexto) : Tela(contexto, "frmLogin"), funcoes_(co
       linha({campo("Senha", txtSenha, cresce)}),
       botoes({&cmdEntrar}, {&cmdFechar}),
   });
-  setPreferredSize(14, 9);
+  setPreferredSize(14, 0);
   cmdEntrar.setPrimary();
   cmbLogin.onKeyPress = [this](std::string_view sCaractere) { return funcoes_.vComboMagico(cmbLogin, sCaractere); };
   cmdEntrar.onClick = [this] { cmdEntrar_Click(); };

@@ -21,8 +21,8 @@ frmLocalizarBD::frmLocalizarBD(Contexto& contexto) : Tela(contexto, "frmLocaliza
   setLayout({
       solto(lblPrincipal),
       linha({campo("Endereço Atual", txtEnderecoAtual, cresce)}),
-      linha({coluna({campo("Unidade", drvlstListaDiretorios, cresce), lista(drvArvoreDiretorios, "Pastas")}, 12),
-             coluna({lista(flstListaBancoDados, "Arquivos")}, 12)}),
+      linha({coluna({campo("Unidade", drvlstListaDiretorios, cresce), lista(drvArvoreDiretorios, "Pastas")}, 8),
+             coluna({lista(flstListaBancoDados, "Arquivos")}, 8)}),
       botoes({&cmdTestarConexao, &cmdConfiguracaoOriginal}, {&cmdFechar}),
   });
   setPreferredSize(16, 24);

@@ -8,7 +8,7 @@ namespace fenvale {
 frmSobreApp::frmSobreApp(Contexto& contexto) : Tela(contexto, "frmSobreApp") {
   setCaption("Sobre o Programa");
   setLayout({solto(lblNomePrograma), solto(lblVersao), solto(lblDetalhes), botoes({}, {&cmdFechar})});
-  setPreferredSize(12, 12);
+  setPreferredSize(12, 0);
   cmdFechar.onClick = [this] { unload(); };
 }
 

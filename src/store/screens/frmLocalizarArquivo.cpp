@@ -26,17 +26,17 @@ frmLocalizarArquivo::frmLocalizarArquivo(Contexto& contexto)
                        "Consulta avançada - Selecionando esta opção, o sistema realizará uma busca avançada pelo local "
                        "informado, varrendo os sub-diretórios à procura de arquivos que contenham possíveis "
                        "importações"),
-      lstLista(*this, "lstLista", {{"Arquivos", 9000, Align::left}}),
+      lstLista(*this, "lstLista", {{"Arquivos", 7500, Align::left}}),
       funcoes_(contexto) {
   setCaption("Localizar arquivo");
   setTitle("Localizar arquivo");
   flstListaArquivos.setVisible(false);
   setLayout({
       solto(lbLabel),
-      linha({coluna({campo("Unidade", drvlstListaDiretorios, cresce), lista(drvArvoreDiretorios, "Pastas")}, 9),
+      linha({coluna({campo("Unidade", drvlstListaDiretorios, cresce), lista(drvArvoreDiretorios, "Pastas")}, 7),
              coluna({lista(lstLista, "Arquivos encontrados"), solto(pbBarra1, cresce, "Andamento na pasta"),
                      solto(pbBarra2, cresce, "Andamento nas pastas")},
-                    15)}),
+                    13)}),
       solto(chkSubDiretorios),
       botoes({&cmdMostrarImportacoesPossivel}, {&cmdFechar}),
   });

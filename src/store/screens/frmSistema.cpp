@@ -62,8 +62,8 @@ void frmSistema::vMontarLayout() {
       aba("Configurações",
           {
               solto(lblAberturaSistema),
-              linha({coluna({solto(chkMostrarContasPagarDia), solto(chkMostrarContasReceberDia)}, 12),
-                     coluna({solto(chkMostrarContasVencidasPagar), solto(chkMostrarContasVencidasReceber)}, 12)}),
+              linha({coluna({solto(chkMostrarContasPagarDia), solto(chkMostrarContasReceberDia)}, 10),
+                     coluna({solto(chkMostrarContasVencidasPagar), solto(chkMostrarContasVencidasReceber)}, 10)}),
               quadro("Configurações adicionais do sistema",
                      {solto(chkExibirLoginUsuario), solto(chkImprimirEntrada),
                       linha({campo("Impressora padrão para a impressão dos documentos", cmbImpressoras, 14)}),

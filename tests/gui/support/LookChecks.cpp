@@ -15,12 +15,15 @@
 #include <QTabWidget>
 #include <QtWidgets>
 #include <algorithm>
+#include <map>
 #include <set>
 
 #include "platform/ui/Control.h"
+#include "platform/ui/Layout.h"
 #include "platform/ui/Screen.h"
 #include "platform/ui/qt/Probe.h"
 #include "platform/ui/qt/QtHost.h"
+#include "platform/ui/qt/Theme.h"
 
 namespace fenvale::qt {
 namespace {
@@ -70,6 +73,26 @@ std::vector<const QWidget*> shownWidgets(const QWidget& window) {
   for (const QWidget* widget : window.findChildren<QWidget*>())
     if (widget->isVisible() && standsAlone(*widget) && !isPartOf(*widget, window)) shown.push_back(widget);
   return shown;
+}
+
+/// What a window manager may put around a window.
+constexpr int windowFrame = 32;
+
+void findOverfull(const LayoutNode& node, int units, std::vector<std::string>& faults) {
+  if (node.kind != LayoutNode::Kind::row) {
+    for (const LayoutNode& child : node.children) findOverfull(child, units, faults);
+    return;
+  }
+  int fixed = 0, stretching = 0;
+  for (const LayoutNode& child : node.children) {
+    fixed += child.width;
+    if (child.width == 0) ++stretching;
+  }
+  if (fixed + stretching > units)
+    faults.push_back("row of " + std::to_string(fixed + stretching) + " columns in a place of " +
+                     std::to_string(units) + ", with " + node.children.front().caption);
+  for (const LayoutNode& child : node.children)
+    findOverfull(child, child.width > 0 ? child.width : (units - fixed) / std::max(stretching, 1), faults);
 }
 
 QRect placeIn(const QWidget& widget, const QWidget& window) { return {widget.mapTo(&window, QPoint()), widget.size()}; }
@@ -122,6 +145,44 @@ std::vector<std::string> overlaps(const QWidget& window) {
   return faults;
 }
 
+std::vector<std::string> needlessScrollBars(const QWidget& window) {
+  std::vector<std::string> faults;
+  const bool room = window.height() + windowFrame < window.screen()->availableGeometry().height();
+  for (const QAbstractScrollArea* area : window.findChildren<QAbstractScrollArea*>()) {
+    const QScrollBar& bar = *area->verticalScrollBar();
+    if (!area->isVisible() || !bar.isVisible()) continue;
+    const bool body = qobject_cast<const QScrollArea*>(area) != nullptr;
+    if (body ? room : bar.maximum() == bar.minimum())
+      faults.push_back("needless scroll bar: " + described(*area, QString::number(bar.maximum())));
+  }
+  return faults;
+}
+
+std::vector<std::string> sharedAccessKeys(const QWidget& window) {
+  std::map<QString, QStringList> captions;
+  const auto add = [&captions](const QString& caption) {
+    if (const QKeySequence key = QKeySequence::mnemonic(caption); !key.isEmpty())
+      captions[key.toString()].append(caption);
+  };
+  for (const QWidget* widget : shownWidgets(window)) {
+    if (const auto* label = qobject_cast<const QLabel*>(widget); label != nullptr && label->buddy() != nullptr)
+      add(label->text());
+    if (const auto* button = qobject_cast<const QAbstractButton*>(widget)) add(button->text());
+  }
+  std::vector<std::string> faults;
+  for (const auto& [key, named] : captions)
+    if (named.size() > 1)
+      faults.push_back("shared key " + key.toStdString() + ": " + named.join(QStringLiteral(", ")).toStdString());
+  return faults;
+}
+
+std::vector<std::string> overfullRows(const Screen& screen) {
+  std::vector<std::string> faults;
+  const int wanted = screen.preferredWidth();
+  findOverfull(screen.layout(), wanted > 0 ? std::min(wanted, measures::columns) : measures::columns, faults);
+  return faults;
+}
+
 std::vector<std::string> unreachable(QtHost& host, Screen& screen) {
   std::vector<std::string> faults;
   const auto order = screen.tabOrder();
@@ -158,7 +219,10 @@ std::vector<std::string> faultsOf(QtHost& host, Screen& screen) {
     QCoreApplication::processEvents();
     add(cutTexts(window));
     add(overlaps(window));
+    add(needlessScrollBars(window));
+    add(sharedAccessKeys(window));
   };
+  add(overfullRows(screen));
   const auto strips = window.findChildren<QTabWidget*>();
   if (strips.isEmpty()) look();
   for (QTabWidget* const strip : strips)

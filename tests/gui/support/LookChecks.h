@@ -20,6 +20,12 @@ std::vector<std::string> cutTexts(const QWidget& window);
 std::vector<std::string> overlaps(const QWidget& window);
 /// Controls of the layout that have no widget, no name to be read aloud, or that Tab does not reach.
 std::vector<std::string> unreachable(QtHost& host, Screen& screen);
+/// Scroll bars that nothing needs: of a body for which the monitor has room, of a list whose rows are all in sight.
+std::vector<std::string> needlessScrollBars(const QWidget& window);
+/// Shown captions that answer to the same Alt key.
+std::vector<std::string> sharedAccessKeys(const QWidget& window);
+/// Rows of the layout whose fields ask for more columns of the grid than their place has.
+std::vector<std::string> overfullRows(const Screen& screen);
 /// All of the above, on every page of the screen's tabs. The screen must be shown.
 std::vector<std::string> faultsOf(QtHost& host, Screen& screen);
 

@@ -73,6 +73,12 @@ TEST_P(TodasAsTelas, LooksWhole) {
   try {
     host.show(tela);
     host.doEvents();
+    const Scheme own = host.theme().scheme();
+    for (const Scheme scheme : {own == Scheme::light ? Scheme::dark : Scheme::light, own}) {
+      host.setScheme(scheme);
+      host.doEvents();
+      EXPECT_THAT(needlessScrollBars(*windowOf(tela)), IsEmpty()) << "after a change of colours";
+    }
     EXPECT_THAT(faultsOf(host, tela), IsEmpty());
     if (const char* folder = std::getenv("FENVALE_FIGURAS")) {
       tela.focusNext();

@@ -120,8 +120,7 @@ class ButtonBinding final : public BindingOf<Button, CommandButton> {
 };
 
 /// A caption in as many lines as it needs: one of these boxes does not break its text by itself.
-QString inLines(const QString& caption, const QFontMetrics& metrics) {
-  constexpr int widest = 15 * measures::unit;
+QString inLines(const QString& caption, const QFontMetrics& metrics, int widest) {
   QStringList lines(QString{});
   for (const QString& word : caption.split(u' ')) {
     const QString longer = lines.back().isEmpty() ? word : lines.back() + u' ' + word;
@@ -140,7 +139,8 @@ class MarkBinding : public BindingOf<Kind, Widget> {
  public:
   MarkBinding(QtHost& host, Kind& control, Widget& button, bool (Kind::*state)() const)
       : BindingOf<Kind, Widget>(host, control, button), state_(state) {
-    button.setText(inLines(toQt(control.caption()), button.fontMetrics()));
+    const int columns = std::max(control.screen().preferredWidth() - markColumns, leastColumns);
+    button.setText(inLines(toQt(control.caption()), button.fontMetrics(), columns * measures::unit));
     if (control.label().empty()) button.setAccessibleName(spokenName(control.caption()));
     QObject::connect(&button, &QAbstractButton::clicked, this, [this] {
       this->enter([this] { this->control().userClick(); });
@@ -157,6 +157,8 @@ class MarkBinding : public BindingOf<Kind, Widget> {
   }
 
  private:
+  /// What the mark and the margins take of the screen's width, and what every screen has.
+  static constexpr int markColumns = 2, leastColumns = 15;
   bool (Kind::*state_)() const;
 };
 
@@ -199,6 +201,10 @@ class LinesLabel final : public QLabel {
  protected:
   void resizeEvent(QResizeEvent* event) override {
     QLabel::resizeEvent(event);
+    if (isVisible()) fit();
+  }
+  void showEvent(QShowEvent* event) override {
+    QLabel::showEvent(event);
     fit();
   }
 
@@ -208,9 +214,10 @@ class LinesLabel final : public QLabel {
     const QMargins around = contentsMargins();
     return text + around.left() + around.right() + 2 + (property("role") == "hint" ? hintPadding : 0);
   }
-  /// Before the first layout a widget has a width that means nothing: a help text then counts as one of ordinary width.
+  /// What is not in sight, before the first layout or on another tab, has a width that means nothing: a help text then
+  /// counts as one of ordinary width.
   void fit() {
-    const int width = testAttribute(Qt::WA_Resized) ? this->width() : 18 * measures::unit;
+    const int width = isVisible() && testAttribute(Qt::WA_Resized) ? this->width() : 18 * measures::unit;
     const int needed = std::max(QLabel::heightForWidth(width), measures::textLine);
     if (std::exchange(height_, needed) != needed) updateGeometry();
   }
