@@ -209,6 +209,21 @@ TEST_F(ArquivoPDF, EveryPartAheadOfAFormFeedEndsItsPage) {
                   ElementsAre(std::string(10, 'x') + "\fz" + std::string(128, 'y'), std::string(72, 'y'), "(4) Tj")));
 }
 
+TEST_F(ArquivoPDF, AFormFeedAtTheBeginningOfTheRestEndsThePageToo) {
+  EXPECT_THAT(
+      paginas(std::string(140, 'x') + "\fz"),
+      ElementsAre(ElementsAre("(1) Tj"), ElementsAre(std::string(140, 'x'), "(2) Tj"), ElementsAre("\fz", "(3) Tj")));
+}
+
+TEST_F(ArquivoPDF, TheHalfOfAnOddLineBeginsAtTheCharacterBeforeItsMiddle) {
+  // 187 characters fit: the second half is looked through down to the 93rd.
+  const auto parte = [this](std::size_t marca) {
+    return paginas(std::string(marca - 1, 'x') + "." + std::string(200, 'y'), {.sFonte = "Arial"})[0][0].size();
+  };
+  EXPECT_EQ(parte(93), 93U);
+  EXPECT_EQ(parte(92), 187U);
+}
+
 TEST_F(ArquivoPDF, SizesOfThePageAndOfTheFont) {
   const auto tem = [this](const Pedido& pedido, const std::string& sTrecho) {
     EXPECT_THAT(sGerar("x", pedido), HasSubstr("\r" + sTrecho + "\r"));
