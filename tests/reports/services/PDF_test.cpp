@@ -180,6 +180,12 @@ TEST_F(ArquivoPDF, ABreakMayFallBetweenABracketAndItsEscape) {
               ElementsAre(ElementsAre(std::string(139, 'x') + "\\", "(y", "(1) Tj")));
 }
 
+TEST_F(ArquivoPDF, ALineThatJustFitsCountsOnce) {
+  std::string sTexto;
+  for (int i = 0; i < 60; ++i) sTexto += std::string(140, 'x') + "\r\n";
+  EXPECT_THAT(paginas(sTexto), ElementsAre(SizeIs(61)));
+}
+
 TEST_F(ArquivoPDF, ABrokenLineCountsOnceMoreThanItTakes) {
   // 57 lines and one of two parts make the counter 59, so that one more line fits.
   std::string sTexto;
