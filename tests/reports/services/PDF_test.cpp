@@ -253,6 +253,9 @@ TEST_F(ArquivoPDF, AHalfIsRoundedToTheEvenNeighbour) {
   for (int i = 0; i < 100; ++i) sTexto += "l\r\n";
   EXPECT_EQ(paginas(sTexto, {.iTamanho = 20, .sngAltura = (72 + 66.5F * 24) / 72})[0].size(), 67U);
   EXPECT_EQ(paginas(sTexto, {.iTamanho = 20, .sngAltura = (72 + 67.5F * 24) / 72})[0].size(), 69U);
+  // 136.5 and 139.5 characters.
+  EXPECT_EQ(paginas(std::string(300, 'x'), {.sngLargura = 910.0F / 72})[0][0].size(), 136U);
+  EXPECT_EQ(paginas(std::string(300, 'x'), {.sngLargura = 930.0F / 72})[0][0].size(), 140U);
 }
 
 TEST_F(ArquivoPDF, TheFontTellsHowManyCharactersFit) {
