@@ -5,10 +5,9 @@
 
 #include "access/screens/frmLocalizarUsuarios.h"
 #include "access/services/Permissoes.h"
-#include "app/Registro.h"
-#include "shell/services/Telas.h"
 #include "support/Caixas.h"
-#include "support/ProgramaDeTeste.h"
+#include "support/Gestos.h"
+#include "support/TelasDoPrograma.h"
 
 namespace fenvale {
 namespace {
@@ -24,23 +23,13 @@ const std::string sInsert =
     "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
     "bPoderImprimir, bPoderAtualizar) VALUES ";
 
-class Usuarios : public testing::Test {
+class Usuarios : public TelasDoPrograma {
  protected:
-  void SetUp() override { programa.abrirPrograma(); }
   void administrador() {
     programa.executarPrograma(sInsert + "('ADMINISTRADOR', 'ADMINISTRADOR', 'x', -1, -1, -1, -1, -1)");
   }
-  /// Shows the screen; `agir` expects its boxes itself, before it presses.
   std::optional<int> abrir(const std::function<void(frmCadastroUsuarios&)>& agir) {
-    host.expectScreen("frmCadastroUsuarios", [this, agir](Screen& tela) {
-      agir(dynamic_cast<frmCadastroUsuarios&>(tela));
-      host.verify();
-      if (tela.state() == Screen::State::loaded) tela.userKey(Key::escape);
-    });
-    const auto codigo =
-        programa.codigoDeSaida([this] { host.showModal(programa.telas().obter("frmCadastroUsuarios")); });
-    host.verify();
-    return codigo;
+    return TelasDoPrograma::abrir<frmCadastroUsuarios>("frmCadastroUsuarios", agir);
   }
   static void preencher(frmCadastroUsuarios& tela, const std::string& nome, const std::string& login,
                         const std::string& senha) {
@@ -58,9 +47,6 @@ class Usuarios : public testing::Test {
     });
     tela.userKey(Key::f6);
   }
-
-  ProgramaDeTeste programa{vRegistrarTelas};
-  TestHost& host = programa.hostDeTeste();
 };
 
 // The first run.
@@ -141,12 +127,7 @@ TEST_F(Usuarios, ATickOnAParentLeavesItsChildrenAlone) {
 TEST_F(Usuarios, ChecksComeInTheirOrder) {
   administrador();
   abrir([this](frmCadastroUsuarios& tela) {
-    const auto recusa = [&](const char* texto, const Control& foco) {
-      host.expectBox(aviso(texto));
-      tela.userKey(Key::f3);
-      EXPECT_TRUE(foco.hasFocus()) << texto;
-      host.verify();
-    };
+    const auto recusa = [&](const char* texto, const Control& foco) { salvarRecusado(host, tela, aviso(texto), foco); };
     recusa("O nome do usuário deve ser informado.", tela.txtNome);
     tela.txtNome.userType("Ana");
     recusa("O login do usuário deve ser informado.", tela.txtLogin);

@@ -3,18 +3,15 @@
 #include "access/screens/frmCadastroUsuarios.h"
 #include "access/screens/frmLogin.h"
 #include "access/services/Permissoes.h"
-#include "app/Registro.h"
-#include "shell/services/Telas.h"
 #include "store/services/DBConectar.h"
 #include "support/Caixas.h"
-#include "support/ProgramaDeTeste.h"
+#include "support/TelasDoPrograma.h"
 
 namespace fenvale {
 namespace {
 
-class Login : public testing::Test {
+class Login : public TelasDoPrograma {
  protected:
-  void SetUp() override { programa.abrirPrograma(); }
   void usuario(const std::string& nome, const std::string& login, const std::string& senha) {
     programa.executarPrograma("INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar) VALUES ('" + nome +
                               "', '" + login + "', '" + senha + "', -1)");
@@ -28,9 +25,6 @@ class Login : public testing::Test {
     host.verify();
     return codigo;
   }
-
-  ProgramaDeTeste programa{vRegistrarTelas};
-  TestHost& host = programa.hostDeTeste();
 };
 
 TEST_F(Login, ShowsItsTextsAndTheLogins) {

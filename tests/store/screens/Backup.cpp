@@ -153,30 +153,10 @@ TEST_F(Backup, ChecksComeInTheirOrder) {
   referencia("loja.MDB", pasta());
   programa.pasta().gravar("copias/ja.MDB", "x");
   tela([this](frmEmpresaBackup& t) {
-    t.txtNomeArquivo.userType("  ");
-    t.txtCaminho.userType(" ");
-    host.expectBox(aviso("Informe o nome do arquivo."));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtNomeArquivo.hasFocus());
-    t.txtNomeArquivo.userType("ja");
-    host.expectBox(aviso("Informe o caminho onde será gravado o arquivo."));
-    t.userKey(Key::f3);
-    EXPECT_EQ("ja.MDB", t.txtNomeArquivo.text());
-    EXPECT_TRUE(t.drvArvoreDiretorios.hasFocus());
-    t.txtCaminho.userType("/nada");
-    host.expectBox(aviso("O caminho informado \r\n\r\n/nada/\r\n\r\nnão existe."));
-    t.userKey(Key::f3);
-    EXPECT_EQ("/nada/", t.txtCaminho.text());
-    EXPECT_TRUE(t.drvArvoreDiretorios.hasFocus());
-    t.txtCaminho.userType(programa.pasta().arquivo("copias"));
-    host.expectBox(aviso(copias("ja.MDB") + "\r\n\r\nO arquivo já existe no local especificado."));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtNomeArquivo.hasFocus());
+    recusarNomeECaminho(t, programa.pasta().arquivo("copias"));
     t.txtNomeArquivo.userType("outra.mdb");
-    host.expectBox(aviso("Selecione uma empresa.", "Norvane sistemas"));
-    t.userKey(Key::f3);
+    salvarRecusado(host, t, aviso("Selecione uma empresa.", "Norvane sistemas"), t.lstLista);
     EXPECT_EQ("outra.mdb", t.txtNomeArquivo.text());
-    EXPECT_TRUE(t.lstLista.hasFocus());
   });
   EXPECT_THAT(nomesDasCopias(), ElementsAre("ja.MDB"));
 }

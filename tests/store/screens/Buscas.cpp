@@ -3,8 +3,6 @@
 #include <filesystem>
 
 #include "access/services/Permissoes.h"
-#include "app/Registro.h"
-#include "shell/services/Telas.h"
 #include "store/screens/ArvoreDiretorios.h"
 #include "store/screens/frmEmpresa.h"
 #include "store/screens/frmExibirImagem.h"
@@ -13,7 +11,7 @@
 #include "store/screens/frmMensagem.h"
 #include "store/services/Sistema.h"
 #include "support/Caixas.h"
-#include "support/ProgramaDeTeste.h"
+#include "support/TelasDoPrograma.h"
 
 namespace fenvale {
 namespace {
@@ -22,10 +20,9 @@ using std::chrono::milliseconds;
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class Buscas : public testing::Test {
+class Buscas : public TelasDoPrograma {
  protected:
-  ProgramaDeTeste programa{vRegistrarTelas};
-  TestHost& host = programa.hostDeTeste();
+  void SetUp() override {}  // the store is opened where the search reads it
 };
 
 // Cities.
@@ -34,11 +31,7 @@ class Cidades : public Buscas {
  protected:
   void SetUp() override { programa.abrirEmpresa(); }
   void buscar(bool bEmpresa, const std::function<void(frmLocalizarCidades&)>& agir) {
-    host.expectScreen("frmLocalizarCidades", [this, agir](Screen& tela) {
-      agir(dynamic_cast<frmLocalizarCidades&>(tela));
-      host.verify();
-      if (tela.state() == Screen::State::loaded) tela.userKey(Key::escape);
-    });
+    esperar<frmLocalizarCidades>("frmLocalizarCidades", agir);
     programa.telas().obter<BuscaCidade>("frmLocalizarCidades").vCarregar(bEmpresa);
     host.verify();
   }
@@ -159,12 +152,9 @@ class Arquivos : public Buscas {
       lugar.gravar(nome, "x");
   }
   std::string buscar(const std::string& padrao, const std::function<void(frmLocalizarArquivo&)>& agir) {
-    host.expectScreen("frmLocalizarArquivo", [this, agir](Screen& aberta) {
-      auto& tela = dynamic_cast<frmLocalizarArquivo&>(aberta);
+    esperar<frmLocalizarArquivo>("frmLocalizarArquivo", [this, agir](frmLocalizarArquivo& tela) {
       tela.drvArvoreDiretorios.userChoose(lugar.caminho());
       agir(tela);
-      host.verify();
-      if (aberta.state() == Screen::State::loaded) aberta.userKey(Key::escape);
     });
     auto& busca = programa.telas().obter<BuscaArquivo>("frmLocalizarArquivo");
     busca.vCarregar(padrao);

@@ -4,11 +4,9 @@
 #include <filesystem>
 
 #include "access/services/Permissoes.h"
-#include "app/Registro.h"
 #include "platform/os/Process.h"
 #include "platform/sql/Store.h"
 #include "shell/services/JanelaPrincipal.h"
-#include "shell/services/Telas.h"
 #include "store/screens/TelasDeEmpresas.h"
 #include "store/screens/frmEmpresa.h"
 #include "store/screens/frmEmpresaAbrir.h"
@@ -17,7 +15,6 @@
 #include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"
 #include "support/Caixas.h"
-#include "support/ProgramaDeTeste.h"
 
 namespace fenvale {
 namespace {
@@ -77,9 +74,7 @@ TEST_F(Abrir, OneCompanyAtMostIsTicked) {
 TEST_F(Abrir, WithoutATickItIsRefused) {
   referencia("a.MDB", "/z/");
   tela([this](frmEmpresaAbrir& t) {
-    host.expectBox(aviso("Selecione uma empresa.", "Norvane sistemas"));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.lstLista.hasFocus());
+    salvarRecusado(host, t, aviso("Selecione uma empresa.", "Norvane sistemas"), t.lstLista);
   });
 }
 
@@ -259,29 +254,7 @@ TEST_F(Nova, AnExtensionInSmallLettersIsOne) {
 
 TEST_F(Nova, ChecksComeInTheirOrder) {
   programa.pasta().gravar("ja.MDB", "x");
-  tela([this](frmEmpresaNova& t) {
-    t.txtNomeArquivo.userType("  ");
-    t.txtCaminho.userType(" ");
-    host.expectBox(aviso("Informe o nome do arquivo."));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtNomeArquivo.hasFocus());
-    t.txtNomeArquivo.userType("ja");
-    host.expectBox(aviso("Informe o caminho onde será gravado o arquivo."));
-    t.userKey(Key::f3);
-    EXPECT_EQ("ja.MDB", t.txtNomeArquivo.text());
-    EXPECT_TRUE(t.drvArvoreDiretorios.hasFocus());
-    t.txtCaminho.userType("/nada");
-    host.expectBox(aviso("O caminho informado \r\n\r\n/nada/\r\n\r\nnão existe."));
-    t.userKey(Key::f3);
-    EXPECT_EQ("/nada/", t.txtCaminho.text());
-    EXPECT_TRUE(t.drvArvoreDiretorios.hasFocus());
-    t.txtCaminho.userType("\\nada\\");
-    host.expectBox(aviso("O caminho informado \r\n\r\n\\nada\\\r\n\r\nnão existe."));
-    t.userKey(Key::f3);
-    t.txtCaminho.userType(programa.pasta().caminho());
-    host.expectBox(aviso(pasta() + "ja.MDB\r\n\r\nO arquivo já existe no local especificado."));
-    t.userKey(Key::f3);
-  });
+  tela([this](frmEmpresaNova& t) { recusarNomeECaminho(t, programa.pasta().caminho()); });
   EXPECT_THAT(referencias(), IsEmpty());
 }
 
@@ -521,28 +494,18 @@ TEST_F(DadosDaEmpresa, ChecksComeInTheirOrder) {
     t.txtCPF.userType("11144477736");
     t.txtCNPJ.userType("11444777000162");
     t.txtEMail.userType("a@");
-    host.expectBox(aviso("O nome deve ser informado."));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtNome.hasFocus());
+    salvarRecusado(host, t, aviso("O nome deve ser informado."), t.txtNome);
     t.txtNome.userType("Loja");
-    host.expectBox(pergunta("CPF inválido. Deseja continuar?"), BoxAnswer::no);
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtCPF.hasFocus());
+    salvarRecusado(host, t, pergunta("CPF inválido. Deseja continuar?"), t.txtCPF, BoxAnswer::no);
     host.expectBox(pergunta("CPF inválido. Deseja continuar?"), BoxAnswer::yes);
-    host.expectBox(pergunta("CNPJ inválido. Deseja continuar?"), BoxAnswer::no);
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtCNPJ.hasFocus());
+    salvarRecusado(host, t, pergunta("CNPJ inválido. Deseja continuar?"), t.txtCNPJ, BoxAnswer::no);
     host.expectBox(pergunta("CPF inválido. Deseja continuar?"), BoxAnswer::yes);
     host.expectBox(pergunta("CNPJ inválido. Deseja continuar?"), BoxAnswer::yes);
-    host.expectBox(aviso("O e-Mail informado é inválido."));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtEMail.hasFocus());
+    salvarRecusado(host, t, aviso("O e-Mail informado é inválido."), t.txtEMail);
     t.txtEMail.userType("");
     t.txtCPF.userType("");
     t.txtCNPJ.userType("");
-    host.expectBox(aviso("Informe a cidade."));
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.campoCidade.txtCidade.hasFocus());
+    salvarRecusado(host, t, aviso("Informe a cidade."), t.campoCidade.txtCidade);
   });
   EXPECT_THAT(programa.linhas("SELECT sNome FROM DadosEmpresa"), IsEmpty());
 }

@@ -2,13 +2,12 @@
 #include <gtest/gtest.h>
 
 #include "access/services/Permissoes.h"
-#include "app/Registro.h"
 #include "platform/os/Process.h"
-#include "shell/services/Telas.h"
 #include "store/screens/frmSistema.h"
 #include "store/services/ConfiguracoesPrograma.h"
 #include "support/Caixas.h"
-#include "support/ProgramaDeTeste.h"
+#include "support/Gestos.h"
+#include "support/TelasDoPrograma.h"
 
 namespace fenvale {
 namespace {
@@ -16,17 +15,10 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class DadosDoSistema : public testing::Test {
+class DadosDoSistema : public TelasDoPrograma {
  protected:
-  void SetUp() override { programa.abrirPrograma(); }
   void abrir(const std::function<void(frmSistema&)>& agir) {
-    host.expectScreen("frmSistema", [this, agir](Screen& tela) {
-      agir(dynamic_cast<frmSistema&>(tela));
-      host.verify();
-      if (tela.state() == Screen::State::loaded) tela.userKey(Key::escape);
-    });
-    host.showModal(programa.telas().obter("frmSistema"));
-    host.verify();
+    EXPECT_EQ(std::nullopt, TelasDoPrograma::abrir<frmSistema>("frmSistema", agir));
   }
   static void preencher(frmSistema& t) {
     t.txtNome.userType("Loja Modelo");
@@ -55,9 +47,6 @@ class DadosDoSistema : public testing::Test {
   auto configuracoes(const std::string& campos) {
     return programa.linhasPrograma("SELECT " + campos + " FROM Configuracoes");
   }
-
-  ProgramaDeTeste programa{vRegistrarTelas};
-  TestHost& host = programa.hostDeTeste();
 };
 
 TEST_F(DadosDoSistema, StartsEmptyWithItsProposals) {
@@ -176,12 +165,7 @@ TEST_F(DadosDoSistema, WithoutAuthenticationUserAndPasswordAreStoredEmpty) {
 
 TEST_F(DadosDoSistema, ChecksComeInTheirOrder) {
   abrir([this](frmSistema& t) {
-    const auto recusa = [&](const char* texto, const Control& foco) {
-      host.expectBox(aviso(texto));
-      t.userKey(Key::f3);
-      EXPECT_TRUE(foco.hasFocus()) << texto;
-      host.verify();
-    };
+    const auto recusa = [&](const char* texto, const Control& foco) { salvarRecusado(host, t, aviso(texto), foco); };
     t.txtEMail.userType("a@");
     t.txtTamanhoPagina.userType("32500");
     t.chkAutenticacao.userClick();
@@ -189,9 +173,7 @@ TEST_F(DadosDoSistema, ChecksComeInTheirOrder) {
     t.txtNome.userType("Loja");
     recusa("O CNPJ deve ser informado.", t.txtCNPJ);
     t.txtCNPJ.userType("11444777000162");
-    host.expectBox(pergunta("CNPJ inválido. Deseja continuar?"), BoxAnswer::no);
-    t.userKey(Key::f3);
-    EXPECT_TRUE(t.txtCNPJ.hasFocus());
+    salvarRecusado(host, t, pergunta("CNPJ inválido. Deseja continuar?"), t.txtCNPJ, BoxAnswer::no);
     host.expectBox(pergunta("CNPJ inválido. Deseja continuar?"), BoxAnswer::yes);
     recusa("O e-Mail informado é inválido.", t.txtEMail);
     t.txtCNPJ.userType("11444777000161");

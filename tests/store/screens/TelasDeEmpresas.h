@@ -4,34 +4,20 @@
 #include <gtest/gtest.h>
 
 #include <functional>
-#include <optional>
 #include <string>
 #include <vector>
 
-#include "app/Registro.h"
 #include "platform/sql/Store.h"
-#include "shell/services/Telas.h"
 #include "store/screens/frmLocalizarArquivo.h"
 #include "store/services/DBConectar.h"
-#include "support/ProgramaDeTeste.h"
+#include "support/Caixas.h"
+#include "support/Gestos.h"
+#include "support/TelasDoPrograma.h"
 
 namespace fenvale {
 
-class TelasDeEmpresas : public testing::Test {
+class TelasDeEmpresas : public TelasDoPrograma {
  protected:
-  void SetUp() override { programa.abrirPrograma(); }
-
-  template <typename T>
-  std::optional<int> abrir(const char* nome, const std::function<void(T&)>& agir) {
-    host.expectScreen(nome, [this, agir](Screen& tela) {
-      agir(dynamic_cast<T&>(tela));
-      host.verify();
-      if (tela.state() == Screen::State::loaded) tela.userKey(Key::escape);
-    });
-    const auto codigo = programa.codigoDeSaida([this, nome] { host.showModal(programa.telas().obter(nome)); });
-    host.verify();
-    return codigo;
-  }
   /// The file finder comes up and this file of that folder is picked; `depois` is done once it is.
   void esperarArquivo(const std::string& pasta, const std::string& arquivo, const std::string& padrao = "*.MDB",
                       const std::function<void()>& depois = {}) {
@@ -63,9 +49,24 @@ class TelasDeEmpresas : public testing::Test {
       textos.push_back(item->text() + " " + item->subItem(1) + " " + item->subItem(2));
     return textos;
   }
-
-  ProgramaDeTeste programa{vRegistrarTelas};
-  TestHost& host = programa.hostDeTeste();
+  /// A name and a folder for a new file are asked for, in this order; no file may be there. The name ends as "ja.MDB".
+  template <typename T>
+  void recusarNomeECaminho(T& t, const std::string& pastaComArquivo) {
+    t.txtNomeArquivo.userType("  ");
+    t.txtCaminho.userType(" ");
+    salvarRecusado(host, t, aviso("Informe o nome do arquivo."), t.txtNomeArquivo);
+    t.txtNomeArquivo.userType("ja");
+    salvarRecusado(host, t, aviso("Informe o caminho onde será gravado o arquivo."), t.drvArvoreDiretorios);
+    EXPECT_EQ("ja.MDB", t.txtNomeArquivo.text());
+    t.txtCaminho.userType("/nada");
+    salvarRecusado(host, t, aviso("O caminho informado \r\n\r\n/nada/\r\n\r\nnão existe."), t.drvArvoreDiretorios);
+    EXPECT_EQ("/nada/", t.txtCaminho.text());
+    t.txtCaminho.userType("\\nada\\");
+    salvarRecusado(host, t, aviso("O caminho informado \r\n\r\n\\nada\\\r\n\r\nnão existe."), t.drvArvoreDiretorios);
+    t.txtCaminho.userType(pastaComArquivo);
+    salvarRecusado(host, t, aviso(pastaComArquivo + "/ja.MDB\r\n\r\nO arquivo já existe no local especificado."),
+                   t.txtNomeArquivo);
+  }
 };
 
 }  // namespace fenvale
