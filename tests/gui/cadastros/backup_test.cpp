@@ -6,19 +6,12 @@
 #include <QtWidgets>
 #include <filesystem>
 
-#include "app/Registro.h"
 #include "gui/support/LookChecks.h"
-#include "platform/sql/Store.h"
-#include "platform/ui/qt/Probe.h"
-#include "platform/ui/qt/QtHost.h"
-#include "shell/services/Telas.h"
+#include "gui/support/ProgramaEmJanelas.h"
 #include "store/screens/frmEmpresaAbrir.h"
 #include "store/screens/frmEmpresaBackup.h"
 #include "store/screens/frmEmpresaNova.h"
 #include "store/screens/frmLocalizarArquivo.h"
-#include "store/services/DBConectar.h"
-#include "store/services/Empresas.h"
-#include "support/ProgramaDeTeste.h"
 
 namespace fenvale::qt {
 namespace {
@@ -26,39 +19,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-class BackupEmJanelas : public testing::Test, protected AmbienteDeTeste {
+class BackupEmJanelas : public testing::Test, protected ProgramaEmJanelas {
  protected:
-  static HostOptions opcoes() {
-    HostOptions options;
-    options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
-    options.scheme = Scheme::light;
-    options.immediate = true;
-    return options;
-  }
   BackupEmJanelas() {
-    moldes.abrirEmpresa();
     moldes.executar("INSERT INTO DadosEmpresa (sNome, lCidade) VALUES ('Loja', 1)");
-    moldes.dbEmpresa().Dados().close();
-    moldes.dbConectar().Dados().close();
     std::filesystem::create_directory(moldes.pasta().arquivo("copias"));
-    programa.dbConectar().Dados().open();
-    programa.empresas().bSetEmpresa(1, "loja.MDB", moldes.pasta().caminho() + "/", false);
+    abrirEmpresa();
   }
-  void tecla(int iTecla) {
-    press(host, iTecla);
-    host.throwKept();
-  }
-  /// Tab until the control has the focus.
-  void ate(const Control& control) {
-    for (int i = 0; i < 20 && !control.hasFocus(); ++i) tecla(Qt::Key_Tab);
-    ASSERT_TRUE(control.hasFocus());
-  }
-
-  ProgramaDeTeste moldes;
-  QtHost host{opcoes()};
-  Programa programa{{moldes.pasta().caminho(), host, relogioDoTeste, processoDoTeste, correioDoTeste, redeDoTeste,
-                     impressorasDoTeste},
-                    vRegistrarTelas};
 };
 
 TEST_F(BackupEmJanelas, ACopyIsMadeByKeysAlone) {
@@ -71,7 +38,7 @@ TEST_F(BackupEmJanelas, ACopyIsMadeByKeysAlone) {
   ASSERT_TRUE(tela.txtCaminho.hasFocus());
   type(host, moldes.pasta().arquivo("copias"));
   host.throwKept();
-  ate(tela.lstLista);
+  irPara(tela.lstLista);
   tecla(Qt::Key_Space);
   EXPECT_TRUE(tela.lstLista.item(0)->checked());
   EXPECT_EQ(tela.txtNomeArquivo.text(), "loja_260315_143207.MDB");
@@ -104,7 +71,7 @@ TEST_F(BackupEmJanelas, ACopyComesBackAsACompanyByKeysAlone) {
     auto& busca = dynamic_cast<frmLocalizarArquivo&>(*host.activeScreen());
     busca.drvArvoreDiretorios.userChoose(moldes.pasta().arquivo("copias"));
     tecla(Qt::Key_F6);
-    ate(busca.lstLista);
+    irPara(busca.lstLista);
     tecla(Qt::Key_Space);
   });
   // The question comes when the finder has gone.
@@ -122,7 +89,7 @@ TEST_F(BackupEmJanelas, ACopyComesBackAsACompanyByKeysAlone) {
 
   auto& abrir = dynamic_cast<frmEmpresaAbrir&>(programa.telas().obter("frmEmpresaAbrir"));
   host.show(abrir);
-  ate(abrir.lstLista);
+  irPara(abrir.lstLista);
   tecla(Qt::Key_Down);
   tecla(Qt::Key_Space);
   EXPECT_EQ(abrir.txtCampo.text(), moldes.pasta().arquivo("copias/" + sCopia));

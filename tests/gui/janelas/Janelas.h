@@ -9,18 +9,11 @@
 
 #include "controles/TelaControles.h"
 #include "controles/TelaExemplo.h"
+#include "gui/support/HostOptions.h"
 #include "platform/ui/qt/Probe.h"
 #include "platform/ui/qt/QtHost.h"
 
 namespace fenvale::qt {
-
-inline HostOptions testOptions() {
-  HostOptions options;
-  options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
-  options.scheme = Scheme::light;
-  options.immediate = true;
-  return options;
-}
 
 class Janelas : public testing::Test {
  protected:

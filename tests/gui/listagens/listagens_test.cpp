@@ -7,15 +7,8 @@
 #include <QtWidgets>
 #include <cstdlib>
 
-#include "app/Registro.h"
 #include "gui/support/LookChecks.h"
-#include "platform/sql/Store.h"
-#include "platform/ui/qt/Probe.h"
-#include "platform/ui/qt/QtHost.h"
-#include "shell/services/Telas.h"
-#include "store/services/DBConectar.h"
-#include "store/services/Empresas.h"
-#include "support/ProgramaDeTeste.h"
+#include "gui/support/ProgramaEmJanelas.h"
 
 namespace fenvale::qt {
 namespace {
@@ -23,32 +16,13 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-HostOptions opcoes() {
-  HostOptions options;
-  options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
-  options.scheme = qEnvironmentVariableIsSet("FENVALE_ESCURO") ? Scheme::dark : Scheme::light;
-  options.immediate = true;
-  return options;
-}
-
-class ListagensEmJanelas : public testing::Test, protected AmbienteDeTeste {
+class ListagensEmJanelas : public testing::Test, protected ProgramaEmJanelas {
  protected:
-  ListagensEmJanelas() {
-    moldes.abrirEmpresa();
-    moldes.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (1, 'Atacado')");
-    moldes.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (2, 'Varejo')");
-    moldes.dbEmpresa().Dados().close();
-    moldes.dbConectar().Dados().close();
-    programa.dbConectar().Dados().open();
-    programa.empresas().bSetEmpresa(1, "loja.MDB", moldes.pasta().caminho() + "/", false);
+  ListagensEmJanelas() : ProgramaEmJanelas(pictureScheme()) {
+    duasCategorias();
+    abrirEmpresa();
   }
 
-  Screen& abrir(const std::string& sTela) {
-    Screen& tela = programa.telas().obter(sTela);
-    host.show(tela);
-    host.doEvents();
-    return tela;
-  }
   void teclas(std::initializer_list<int> iTeclas) {
     for (const int iTecla : iTeclas) press(host, iTecla);
     host.throwKept();
@@ -61,12 +35,6 @@ class ListagensEmJanelas : public testing::Test, protected AmbienteDeTeste {
       press(host, iTecla);
     });
   }
-
-  ProgramaDeTeste moldes;
-  QtHost host{opcoes()};
-  Programa programa{{moldes.pasta().caminho(), host, relogioDoTeste, processoDoTeste, correioDoTeste, redeDoTeste,
-                     impressorasDoTeste},
-                    vRegistrarTelas};
 };
 
 TEST_F(ListagensEmJanelas, ARegisterBecomesATextByKeysAlone) {

@@ -7,6 +7,7 @@
 #include <QtWidgets>
 
 #include "app/Registro.h"
+#include "gui/support/HostOptions.h"
 #include "gui/support/LookChecks.h"
 #include "overview/screens/frmMostrarContas.h"
 #include "overview/services/QuadroGeralContas.h"
@@ -26,16 +27,7 @@ namespace {
 using testing::ElementsAre;
 using testing::IsEmpty;
 
-HostOptions opcoes() {
-  HostOptions options;
-  options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
-  options.scheme = Scheme::light;
-  options.immediate = true;
-  return options;
-}
-
-/// The firm of Cenario on 10 May 2026, with receivables of that day and before
-/// it.
+/// The firm of Cenario on 10 May 2026, with receivables of that day and before it.
 class QuadroEmJanela : public testing::Test, protected AmbienteDeTeste {
  protected:
   QuadroEmJanela() {
@@ -99,7 +91,7 @@ class QuadroEmJanela : public testing::Test, protected AmbienteDeTeste {
   }
 
   Cenario moldes{ladoReceber()};
-  QtHost host{opcoes()};
+  QtHost host{testOptions()};
   Programa programa{{moldes.programa.pasta().caminho(), host, relogioDoTeste, processoDoTeste, correioDoTeste,
                      redeDoTeste, impressorasDoTeste},
                     vRegistrarTelas};

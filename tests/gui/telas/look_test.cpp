@@ -11,16 +11,9 @@
 #include <cstdlib>
 
 #include "access/services/Permissoes.h"
-#include "app/Registro.h"
 #include "gui/support/LookChecks.h"
+#include "gui/support/ProgramaEmJanelas.h"
 #include "platform/base/Error.h"
-#include "platform/sql/Store.h"
-#include "platform/ui/qt/Probe.h"
-#include "platform/ui/qt/QtHost.h"
-#include "shell/services/Telas.h"
-#include "store/services/DBConectar.h"
-#include "store/services/Empresas.h"
-#include "support/ProgramaDeTeste.h"
 
 namespace fenvale::qt {
 namespace {
@@ -32,33 +25,14 @@ std::vector<std::string> nomesDasTelas() {
   return const_cast<ProgramaDeTeste&>(programa).telas().nomes();
 }
 
-class TodasAsTelas : public testing::TestWithParam<std::string> {
+class TodasAsTelas : public testing::TestWithParam<std::string>, protected ProgramaEmJanelas {
  protected:
-  static HostOptions opcoes() {
-    HostOptions options;
-    options.iconFolder = QStringLiteral(FENVALE_SOURCE_DIR "/data/icones");
-    options.scheme = qEnvironmentVariableIsSet("FENVALE_ESCURO") ? Scheme::dark : Scheme::light;
-    options.immediate = true;
-    return options;
-  }
-
-  TodasAsTelas() {
-    modelo.abrirEmpresa();
-    modelo.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (1, 'Atacado')");
-    modelo.executar("INSERT INTO Categorias (btCodigoInf, sNome) VALUES (2, 'Varejo')");
-    modelo.executarPrograma("INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha) VALUES ('Maria', 'MARIA', '123')");
-    const auto chave = modelo.linhasPrograma("SELECT MAX(lCodigo) AS Valor FROM Empresas").at(0).at(0);
-    programa.dbConectar().Dados().open();
-    programa.empresas().bSetEmpresa(std::stoi(chave), "loja.MDB", modelo.pasta().caminho() + "/", false);
+  TodasAsTelas() : ProgramaEmJanelas(pictureScheme()) {
+    duasCategorias();
+    moldes.executarPrograma("INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha) VALUES ('Maria', 'MARIA', '123')");
+    abrirEmpresa();
     programa.permissoes().vSetPermissoes(0);
   }
-
-  ProgramaDeTeste modelo;
-  AmbienteDeTeste ambiente;
-  QtHost host{opcoes()};
-  Programa programa{{modelo.pasta().caminho(), host, ambiente.relogioDoTeste, ambiente.processoDoTeste,
-                     ambiente.correioDoTeste, ambiente.redeDoTeste, ambiente.impressorasDoTeste},
-                    vRegistrarTelas};
 };
 
 TEST_P(TodasAsTelas, LooksWhole) {
