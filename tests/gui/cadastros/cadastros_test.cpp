@@ -128,6 +128,90 @@ TEST_F(CadastrosEmJanelas, ASupplierIsTypedPickedAndStoredByKeysAlone) {
   EXPECT_EQ(tela.state(), Screen::State::unloaded);
 }
 
+TEST_F(CadastrosEmJanelas, ACustomerIsTypedAcrossItsTabsAndItsTitlesAreAskedForByKeysAlone) {
+  auto& tela = dynamic_cast<frmCadastroClientes&>(abrir("frmCadastroClientes"));
+  const auto proxima = [&](Control& esperada, std::string_view sTexto) {
+    tecla(Qt::Key_Return);
+    ASSERT_TRUE(esperada.hasFocus()) << esperada.name();
+    escrever(sTexto);
+  };
+  escrever("41");
+  escolher(tela.txtCategoria, "ata", 2);
+  ASSERT_TRUE(tela.txtNome.hasFocus());
+  escrever("Açougue São João");
+  proxima(tela.txtLimiteCredito, "1500,00");
+  proxima(tela.txtEndereco, "Rua Sergipe, 100");
+  proxima(tela.txtBairro, "Centro");
+  escolher(tela.cidade.txtUF, "Londr", 1);
+  ASSERT_TRUE(tela.txtCEP.hasFocus()) << "a picked city leads on to the post code";
+  escrever("86010370");
+  proxima(tela.txtTelefone, "4333221100");
+  proxima(tela.txtFax, "4333221101");
+  proxima(tela.txtContato, "João");
+  escolher(tela.txtVendedor, "Vend", 2);
+  ASSERT_TRUE(tela.txtRG.hasFocus()) << "a picked salesperson leads on to the identity card";
+  escrever("22.333.444-X");
+  proxima(tela.txtCPF, "11144477735");
+  proxima(tela.txtIE, "ISENTO");
+  proxima(tela.txtCNPJ, "");
+  proxima(tela.dtNascimento, "12081975");
+  proxima(tela.txtEMail, "joao@acougue.com.br");
+  proxima(tela.txtHomePage, "www.acougue.com.br");
+  proxima(tela.txtObs, "Paga na segunda");
+  auto* const abas = windowOf(tela)->findChild<QTabWidget*>();
+  ASSERT_NE(abas, nullptr);
+  irPara(tela.txtPai);
+  EXPECT_EQ(abas->currentIndex(), 1);
+  escrever("Pedro");
+  proxima(tela.txtMae, "Glória");
+  irPara(tela.txtEnderecoEntrega);
+  EXPECT_EQ(abas->currentIndex(), 2);
+  escrever("Rua 3");
+  proxima(tela.txtBairroEntrega, "Vila Rica");
+  escolher(tela.cidadeEntrega.txtCidade, "São", 1);
+  ASSERT_TRUE(tela.txtEnderecoCobranca.hasFocus()) << "a picked place of delivery leads on to the next tab";
+  EXPECT_EQ(abas->currentIndex(), 3);
+  escrever("Rua 4");
+  escolher(tela.cidadeCobranca.txtCidade, "São", 1);
+  EXPECT_TRUE(tela.cidadeCobranca.txtCidade.hasFocus());
+  EXPECT_EQ(tela.cidadeCobranca.txtUF.text(), "SP");
+  whenOpened(host, [&] { press(host, Qt::Key_Return); });
+  tecla(Qt::Key_F3);
+  EXPECT_EQ(abas->currentIndex(), 0) << "back at the code of the next record";
+  EXPECT_TRUE(tela.txtCodigoInf.hasFocus());
+  ASSERT_EQ(tela.lstLista.items().size(), 1u);
+  std::vector<std::string> celulas;
+  for (std::size_t i = 2; i <= tela.lstLista.item(0)->subItemCount(); ++i)
+    celulas.push_back(tela.lstLista.item(0)->subItem(i));
+  EXPECT_THAT(celulas, ElementsAre("1", "Açougue São João", "1.500,00", "Rua Sergipe, 100", "Centro", "Londrina", "PR",
+                                   "86010-370", "(43) 3322-1100", "(43) 3322-1101", "João", "1", "Vendedor",
+                                   "22.333.444-X", "111.444.777-35", "ISENTO", "", "12/08/1975", "joao@acougue.com.br",
+                                   "www.acougue.com.br", "Paga na segunda", "Pedro", "Glória", "Rua 3", "Vila Rica", "",
+                                   "São Paulo", "SP", "Rua 4", "", "", "São Paulo", "SP"));
+
+  irPara(tela.lstLista);
+  tecla(Qt::Key_Space);
+  EXPECT_EQ(tela.note(), "Editando o registro 41");
+  QTimer aEspera;
+  QObject::connect(&aEspera, &QTimer::timeout, [&] {
+    if (QApplication::activePopupWidget() == nullptr) return;
+    aEspera.stop();
+    for (int iTecla : {Qt::Key_Down, Qt::Key_Return}) press(host, iTecla);
+  });
+  aEspera.start(1);
+  std::string sAberta;
+  whenOpened(host, [&] {
+    sAberta = host.activeScreen()->sGetName();
+    press(host, Qt::Key_Escape);
+  });
+  tecla(Qt::Key_Menu);
+  EXPECT_EQ(sAberta, "frmCadastroTitulosReceber");
+  EXPECT_EQ(tela.lGetCodigo(), -1);
+  EXPECT_TRUE(tela.txtCodigoInf.hasFocus());
+  tecla(Qt::Key_Escape);
+  EXPECT_EQ(tela.state(), Screen::State::unloaded);
+}
+
 TEST_F(CadastrosEmJanelas, MenuAndToolbarLeadToTheSuppliers) {
   programa.permissoes().vSetPermissoes(0);
   Screen& janela = abrir("frmMDIPrincipal");

@@ -368,7 +368,9 @@ struct Recebedora : Screen,
   }
   void receber(const std::string& sQue, std::int32_t lCodigo, const std::string& sTexto) {
     recebido = sQue + "|" + std::to_string(lCodigo) + "|" + sTexto;
+    if (aoReceber) aoReceber();
   }
+  std::function<void()> aoReceber;
   std::string recebido;
 };
 
@@ -437,6 +439,7 @@ TEST_P(BuscaRapida, TwoClicksOnTheSameRowPickIt) {
     busca.lstLista.userClickRow(1);
     EXPECT_EQ(chamadora.recebido, "") << "a click on another row begins anew";
     busca.lstLista.userMoveCursor(0);
+    chamadora.aoReceber = [&] { EXPECT_EQ(busca.state(), Screen::State::loaded) << "it closes afterwards"; };
     busca.lstLista.userClickRow(1);
     EXPECT_EQ(busca.state(), Screen::State::unloaded);
   });

@@ -302,6 +302,9 @@ TEST_P(CodigoNome, WithoutTheRightToSearchTheListStaysAsItWas) {
 }
 
 TEST_P(CodigoNome, EnterMovesOnAndEscCloses) {
+  linha(1, "Norte");
+  recarregar();
+  ASSERT_EQ(tela.lstLista.items().size(), 1u);
   EXPECT_TRUE(tela.userKey(Key::enter));
   EXPECT_TRUE(tela.txtNome.hasFocus());
   tela.userKey(Key::escape);
