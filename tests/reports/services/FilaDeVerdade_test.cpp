@@ -71,5 +71,16 @@ TEST_F(FilaDeVerdade, OfTheMachinesDefaultGetsThemWhereTheFirmHasAPdfFileForAPri
   EXPECT_TRUE(chegaram[0] == sArquivo());
 }
 
+TEST_F(FilaDeVerdade, TakesTheLongestTitleThereCanBe) {
+  std::string sTitulo;
+  for (int i = 0; i < 130; ++i) sTitulo += "ç";
+  opcoes.vSetTitulo(sTitulo);
+  const PrintServer servidor(queueAt("Matricial", impressora.address()));
+  servidor.serve([this] { vImprimir(opcoes, 0, "Matricial"); });
+  const std::vector<std::string> chegaram = impressora.prints(1);
+  ASSERT_EQ(chegaram.size(), 1U);
+  EXPECT_TRUE(chegaram[0] == sArquivo());
+}
+
 }  // namespace
 }  // namespace fenvale
