@@ -61,6 +61,29 @@ TEST(RawJobs, TheBytesThatWereWrittenArriveAsTheyAre) {
   EXPECT_THAT(listed, ElementsAre("Matricial: Cadastro de clientes"));
 }
 
+/// A printer that the server would draw pages for.
+constexpr const char* pageDriver =
+    "*PPD-Adobe: \"4.3\"\n*FormatVersion: \"4.3\"\n*FileVersion: \"1.0\"\n*LanguageVersion: English\n"
+    "*LanguageEncoding: ISOLatin1\n*PCFileName: \"PAGES.PPD\"\n*Manufacturer: \"Pages\"\n*Product: \"(Pages)\"\n"
+    "*ModelName: \"Pages\"\n*ShortNickName: \"Pages\"\n*NickName: \"Pages\"\n*PSVersion: \"(3010.000) 0\"\n"
+    "*LanguageLevel: \"3\"\n*ColorDevice: False\n*DefaultColorSpace: Gray\n*FileSystem: False\n*Throughput: \"1\"\n"
+    "*OpenUI *PageSize/Page: PickOne\n*DefaultPageSize: A4\n*PageSize A4/A4: \"\"\n*CloseUI: *PageSize\n"
+    "*OpenUI *PageRegion/Page: PickOne\n*DefaultPageRegion: A4\n*PageRegion A4/A4: \"\"\n*CloseUI: *PageRegion\n"
+    "*DefaultImageableArea: A4\n*ImageableArea A4/A4: \"0 0 595 842\"\n"
+    "*DefaultPaperDimension: A4\n*PaperDimension A4/A4: \"595 842\"\n";
+
+TEST(RawJobs, TheDriverOfAQueueLeavesTheBytesAlone) {
+  NetworkPrinter printer;
+  const PrintServer server(queueAt("Matricial", printer.address()), {{"Matricial", pageDriver}});
+  const std::string bytes = "\x0F+--+\r\n|\xC9|\r\n+--+\r\n\x12";
+  server.serve([&] {
+    const auto job = CupsPrinters().openRaw("Matricial", "Cadastro de clientes");
+    job->write(bytes);
+    job->finish();
+  });
+  EXPECT_THAT(printer.prints(1), ElementsAre(bytes));
+}
+
 TEST(RawJobs, AJobThatIsNotFinishedIsTakenBackAndPrintsNothing) {
   NetworkPrinter printer;
   const PrintServer server(queueAt("Matricial", printer.address()));

@@ -15,6 +15,7 @@
 #include <cstdlib>
 #include <exception>
 #include <filesystem>
+#include <map>
 #include <mutex>
 #include <stdexcept>
 #include <string>
@@ -29,11 +30,12 @@ namespace fenvale {
 /// Its printers are run by the system's own backends; as root it gives them to a user of less rights.
 class PrintServer {
  public:
-  explicit PrintServer(const std::string& queues) {
+  /// `drivers` are the descriptions of printers (PPD), by the names of their queues; a queue without one is raw.
+  explicit PrintServer(const std::string& queues, const std::map<std::string, std::string>& drivers = {}) {
     const std::string base = folder_.caminho();
     namespace fs = std::filesystem;
     fs::permissions(base, fs::perms::group_exec | fs::perms::others_exec, fs::perm_options::add);
-    for (const char* name : {"conf", "state", "cache", "spool", "tmp"})
+    for (const char* name : {"conf/ppd", "state", "cache", "spool", "tmp"})
       std::filesystem::create_directories(base + "/" + name);
     folder_.gravar("conf/cupsd.conf", "Listen " + socket() +
                                           "\nBrowsing Off\nLogLevel error\nDefaultAuthType None\n"
@@ -43,6 +45,7 @@ class PrintServer {
                                                "/tmp\nFileDevice Yes\nAccessLog " + base + "/access\nErrorLog " + base +
                                                "/errors\nPageLog " + base + "/pages\n");
     folder_.gravar("conf/printers.conf", queues);
+    for (const auto& [queue, driver] : drivers) folder_.gravar("conf/ppd/" + queue + ".ppd", driver);
     process_ = ::fork();
     if (process_ == 0) {
       const std::string configuration = base + "/conf/cupsd.conf";
