@@ -4,12 +4,15 @@
 
 #include "access/services/Permissoes.h"
 #include "app/Registro.h"
+#include "platform/os/Process.h"
+#include "platform/sql/Store.h"
 #include "platform/ui/Menu.h"
 #include "shell/screens/MenuPrincipal.h"
 #include "shell/screens/frmMDIPrincipal.h"
 #include "shell/services/Tela.h"
 #include "shell/services/Telas.h"
 #include "shell/services/TelasDeApoio.h"
+#include "store/services/DBConectar.h"
 #include "store/services/Empresas.h"
 #include "support/Caixas.h"
 #include "support/ProgramaDeTeste.h"
@@ -63,6 +66,106 @@ class Janela : public testing::Test {
   ProgramaDeTeste programa;
   TestHost& host = programa.hostDeTeste();
 };
+
+/// The menu as it hangs in the window: caption, name, and for a command what it opens and what guards it.
+constexpr const char* sMenuInteiro = R"(&Cadastros mnuCadastroS
+  Nova Empresa mnuEmpresaNova -> frmEmpresaNova
+  Abrir Empresa mnuEmpresaAbrir -> frmEmpresaAbrir
+  Backup de empresas mnuEmpresaBackup -> frmEmpresaBackup
+  - mnu3
+  Categorias mnuCadCategorias -> frmCadastroCategorias empresa
+  Clientes mnuCadClientes -> frmCadastroClientes empresa
+  Fornecedores mnuCadFornecedores -> frmCadastroFornecedores empresa
+  Portadores mnuCadastroPortadores -> frmCadastroPortadores empresa
+  Condições de pagamento mnuCadCondicoesPagamento -> frmCadastroCondicoesPagamento empresa
+  Vendedores mnuCadVendedores -> frmCadastroVendedores empresa
+  Centro de custo mnuCadCentroCusto -> frmCadastroCentroCusto empresa
+  - mnuSep2
+  Faturas de clientes mnuCadFaturasClientes -> frmCadastroFaturasCliente empresa
+  Faturas de fornecedores mnuCadFaturasFornecedores -> frmCadastroFaturasFornecedor empresa
+  Títulos a receber mnuCadTitulosReceber -> frmCadastroTitulosReceber empresa
+  Títulos a pagar mnuCadTitulosPagar -> frmCadastroTitulosPagar empresa
+  - mnuSep12
+  Sistema mnuCadSistema -> frmSistema
+  Dados da empresa mnuCadDadosEmpresa -> frmEmpresa empresa
+  - mnuSep1
+  &Usuários mnuUsuarios -> frmCadastroUsuarios
+  Trocar de usuário mnuTrocarUsuario -> frmLogin
+  - mnuSep
+  &Sair mnuSair
+Processamentos mnuProcessamentos
+  Transferência entre vendedores mnuTransferenciaVendedores -> frmTransferenciaVendedores
+  Eliminação automática de títulos mnuZerarTitulos -> frmZerarTitulos
+  - mnuSep11
+  Quadro geral de contas mnuQuadroGeralContas -> frmMostrarContas quadro
+Emissões mnuEmissoes
+  Emissão de carnês e promissórias mnuEmtirCarnesPromissorias -> frmEmitirCarnesPromissorias empresa
+  - mnuSep4
+  Mala direta mnuEmissaoMalaDireta
+    Clientes mnuEmissaoMalaDiretaCliente -> frmMalaDiretaCliente empresa
+    Fornecedores mnuEmissaoMalaDiretaFornecedores -> frmMalaDiretaFornecedor empresa
+    Aniversariantes mnuEmissaoMalaDiretaAnivesariantes -> frmMalaDiretaAniversariantes empresa
+    - mnuSep10
+    Cobrança mnuEmissaoMalaDiretaCobranca -> frmMalaDiretaCobranca empresa
+  - mnuSep3
+  Cheques mnuImpressaoCheques
+    Impressão para títulos recebidos mnuImprimssaoCheque -> frmImpressaoCheques empresa
+    Impressão para títulos pagos mnuImprimssaoChequeTitulosPagar -> frmImpressaoChequesTitulosPagar empresa
+    Impressão simples mnuImpremssaoChequeSimples -> frmImpressaoChequesSimples empresa
+  - mnuSep9
+  Títulos a receber mnuEmitirTitulos -> frmEmitirTitulos empresa
+Listagens mnuListagens
+  Cadastros mnuRelCadastros
+    Clientes mnuRelClientes -> frmRelClientes empresa
+    Clientes agrupados por cidade mnuRelClientesCidade -> frmRelClientesCidade empresa
+    Aniversariantes mnuRelAniversariantes -> frmRelAniversariantes empresa
+    - mnuSep5
+    Fornecedores mnuRelFornecedores -> frmRelFornecedores empresa
+    Fornecedores agrupados por cidade mnuRelFornecedoresCidade -> frmRelFornecedoresCidade empresa
+    - mnuSep6
+    Portadores mnuRelPortadores -> frmRelPortadores empresa
+    Categorias mnuRelCategorias -> frmRelCategorias empresa
+    Vendedores mnuRelVendedores -> frmRelVendedores empresa
+    Condições de pagamento mnuRelCondicoesPagamento -> frmRelCondicoesPagamento empresa
+    Centro de custos mnuRelCentroCustos -> frmRelCentroCustos empresa
+    - mnuSep7
+    Cidades mnuRelCidades -> frmRelCidades empresa
+    Bancos mnuRelBancos -> frmRelBancos empresa
+  Faturas mnuRelFaturas
+    Clientes mnuRelFaturasClientes -> frmRelFaturasClientes empresa
+    Fornecedores mnuRelFaturasFornecedores -> frmRelFaturasFornecedores empresa
+  Títulos mnuRelTitulos
+    Emitidos mnuRelTitulosEmitidos -> frmRelTitulosEmitidos empresa
+    Emitidos por portador mnuRelTitulosEmitidosPortador -> frmRelTitulosEmitidosPortador empresa
+    a receber mnuRelTitulosReceber -> frmRelTitulosReceber empresa
+    Recebidos mnuRelTitulosRecebidos -> frmRelTitulosRecebidos empresa
+    a pagar mnuRelTitulosPagar -> frmRelTitulosPagar empresa
+    Pagos mnuRelTitulosPagos -> frmRelTitulosPagos empresa
+  Gerenciais mnuRelGerenciais
+    Clientes inativos mnuRelClientesInativos -> frmRelClientesInativos empresa
+    Fornecedores inativos mnuRelFornecedoresInativos -> frmRelFornecedoresInativos empresa
+    Posição geral a receber mnuRelPosicaoGeralReceber -> frmRelPosicaoGeralReceber empresa
+    Posição geral a pagar mnuRelPosicaoGeralPagar -> frmRelPosicaoGeralPagar empresa
+    Confrotamento da posição geral mnuRelPosicaoGeralConfrontamento -> frmRelPosicaoGeralConfrontamento empresa
+    - mnuSep8
+    Fluxo de caixa mnuRelFluxoCaixa -> frmRelFluxoCaixa empresa
+A&juda mnusobre
+  &Sobre o Sistema mnuabout -> frmSobreApp
+)";
+
+std::string sMenu(const std::vector<MenuItem>& itens, const std::string& sRecuo = {}) {
+  std::string sTexto;
+  for (const MenuItem& item : itens) {
+    const EntradaMenu& entrada = *entradaMenu(item.name);
+    sTexto += sRecuo + item.caption + " " + item.name;
+    if (!entrada.sTela.empty()) sTexto += " -> " + std::string(entrada.sTela);
+    if (entrada.guarda != Guarda::nenhuma) sTexto += entrada.guarda == Guarda::empresa ? " empresa" : " quadro";
+    sTexto += "\n" + sMenu(item.children, sRecuo + "  ");
+  }
+  return sTexto;
+}
+
+TEST_F(Janela, TheWholeMenuInItsOrder) { EXPECT_EQ(sMenuInteiro, sMenu(janela().mnuPrincipal.items())); }
 
 TEST_F(Janela, LoadsWithTheNameOfTheProgram) { EXPECT_EQ("Gestor Fenvale - Versão ZENIT", janela().caption()); }
 
@@ -167,6 +270,17 @@ TEST_F(Janela, LeavingByTheMenuRemembersTheCompany) {
   EXPECT_EQ("<root>\r\n<emp>\r\n<cod>1</cod>\r\n<file>loja.MDB</file>\r\n<path>" + programa.pasta().caminho() +
                 "/</path>\r\n</emp>\r\n</root>\r\n",
             programa.pasta().ler("Empresa.XML"));
+  EXPECT_FALSE(programa.dbConectar().Dados().isOpen());
+  EXPECT_TRUE(programa.dbEmpresa().Dados().isOpen()) << "the end of the process takes that one";
+}
+
+TEST_F(Janela, LeavingClosesTheStoreBeforeItWritesDownTheCompany) {
+  programa.pasta().gravar("Empresa.XML/no-caminho", "");
+  bool bAberta = true;
+  host.then([&] { bAberta = programa.dbConectar().Dados().isOpen(); });
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  EXPECT_EQ(exitFailure, programa.codigoDeSaida([&] { janela().mnuPrincipal.userChoose("mnuSair"); }));
+  EXPECT_FALSE(bAberta);
 }
 
 TEST_F(Janela, LeavingByTheToolbarDoesTheSameWithNoCompanyToo) {
@@ -178,6 +292,7 @@ TEST_F(Janela, ClosingTheWindowEndsTheProgramAndRemembersNothing) {
   programa.abrirEmpresa();
   EXPECT_EQ(0, programa.codigoDeSaida([&] { janela().userClose(); }));
   EXPECT_FALSE(programa.pasta().existe("Empresa.XML"));
+  EXPECT_FALSE(programa.dbConectar().Dados().isOpen());
 }
 
 std::map<std::string, std::string> paineis(const frmMDIPrincipal& janela) {

@@ -97,6 +97,21 @@ class Inicio : public testing::Test {
     host.expectBox(informacao("Operação concluída."));
   }
 
+  /// A company that is up to date, open when the program was left.
+  void comEmpresa() {
+    ProgramaDeTeste modelo;
+    modelo.criarEmpresa("loja.MDB");
+    pasta.gravar("loja.MDB", modelo.pasta().ler("loja.MDB"));
+    pasta.gravar("Empresa.XML", "<root>\r\n<emp>\r\n<cod>1</cod>\r\n<file>loja.MDB</file>\r\n<path>" + pasta.caminho() +
+                                    "/</path>\r\n</emp>\r\n</root>\r\n");
+  }
+  /// On the program's store, between two runs.
+  void executarPrograma(const std::string& sSQL) {
+    Rodada rodada(pasta, vRegistrarTelas);
+    rodada.dbConectar().Dados().open();
+    const Recordset comando(sSQL, rodada.dbConectar().Dados());
+  }
+
   PastaTemporaria pasta;
 };
 
@@ -222,11 +237,7 @@ TEST_F(Inicio, TheFirstUserNotSavedEndsTheRun) {
 
 TEST_F(Inicio, TheLoginClosedEndsTheRun) {
   primeiroInicio();
-  {
-    Rodada rodada(pasta, vRegistrarTelas);
-    rodada.dbConectar().Dados().open();
-    Recordset("UPDATE Configuracoes SET bitExibirLoginUsuarios = -1", rodada.dbConectar().Dados());
-  }
+  executarPrograma("UPDATE Configuracoes SET bitExibirLoginUsuarios = -1");
   Rodada rodada(pasta, vRegistrarTelas);
   TestHost& host = rodada.hostDeTeste();
   host.expectScreen("frmLogin", [](Screen& tela) { tela.userClose(); });
@@ -287,23 +298,51 @@ TEST_F(Inicio, TheOverviewIsPassedOverWithoutACompany) {
 
 TEST_F(Inicio, TheLastCompanyIsOpenBeforeTheMainWindowAndTheOverviewShows) {
   primeiroInicio();
-  ProgramaDeTeste modelo;
-  modelo.criarEmpresa("loja.MDB");
-  pasta.gravar("loja.MDB", modelo.pasta().ler("loja.MDB"));
-  pasta.gravar("Empresa.XML", "<root>\r\n<emp>\r\n<cod>1</cod>\r\n<file>loja.MDB</file>\r\n<path>" + pasta.caminho() +
-                                  "/</path>\r\n</emp>\r\n</root>\r\n");
+  comEmpresa();
   QuadroDeTeste::chamadas().clear();
   Rodada rodada(pasta, registrarComQuadro);
   TestHost& host = rodada.hostDeTeste();
   host.expectScreen("frmMostrarContas", [&](Screen& tela) {
     EXPECT_FALSE(host.shown().front()->enabled()) << "the main window waits";
+    EXPECT_EQ(Pointer::hourglass, host.pointer());
     tela.unload();
   });
   EXPECT_EQ(std::nullopt, iniciar(rodada));
+  EXPECT_TRUE(host.activeScreen()->enabled());
+  EXPECT_EQ(Pointer::normal, host.pointer());
   EXPECT_THAT(QuadroDeTeste::chamadas(), ElementsAre(false, true));
   EXPECT_EQ("Gestor Fenvale - Versão ZENIT   -     Empresa: loja.MDB     -     Caminho: " + pasta.caminho() + "/",
             host.activeScreen()->caption());
   EXPECT_THAT(host.boxes(), testing::IsEmpty()) << "reopening is not announced";
+}
+
+TEST_F(Inicio, LoginThenOverviewThenTheFirmsDataEachOverTheWindowAsItStandsThen) {
+  primeiroInicio();
+  comEmpresa();
+  executarPrograma("UPDATE Configuracoes SET bitExibirLoginUsuarios = -1");
+  executarPrograma("DELETE * FROM Sistema");
+  QuadroDeTeste::chamadas().clear();
+  Rodada rodada(pasta, registrarComQuadro);
+  TestHost& host = rodada.hostDeTeste();
+  const auto janela = [&host]() -> const Screen& { return *host.shown().front(); };
+  host.expectScreen("frmLogin", [&](Screen& tela) {
+    EXPECT_EQ("frmMDIPrincipal", janela().sGetName());
+    EXPECT_TRUE(janela().enabled());
+    EXPECT_THAT(QuadroDeTeste::chamadas(), ElementsAre());
+    entrar(tela);
+  });
+  host.expectScreen("frmMostrarContas", [&](Screen& tela) {
+    EXPECT_EQ(1, rodada.permissoes().lGetCodigoUsuario());
+    EXPECT_THAT(QuadroDeTeste::chamadas(), ElementsAre(false));
+    tela.unload();
+  });
+  host.then([&] {
+    EXPECT_THAT(QuadroDeTeste::chamadas(), ElementsAre(false, true)) << "set back as soon as the board is gone";
+    EXPECT_TRUE(janela().enabled());
+    EXPECT_EQ(Pointer::normal, host.pointer());
+  });
+  esperarSistema(host);
+  EXPECT_EQ(std::nullopt, iniciar(rodada));
 }
 
 TEST_F(Inicio, ALastCompanyThatIsOutOfDateEndsTheRunFromTheSplash) {

@@ -37,6 +37,30 @@ TEST_F(TelasPequenas, TheSplashStaysItsWholeWaitWhenTheCompanyOpenedFast) {
   EXPECT_TRUE(host.shown().empty());
 }
 
+/// A screen that notes the moments at which the waits of others end.
+class Cronometro final : public Screen {
+ public:
+  explicit Cronometro(UiHost& quem) : Screen(quem, "frmCronometro") {
+    tmpPassos.onTick = [this] {
+      const auto agora = static_cast<int>(host().elapsed().count());
+      if (momentos.empty() || momentos.back() != agora) momentos.push_back(agora);
+    };
+    tmpPassos.setInterval(10);
+  }
+  Timer tmpPassos{*this, "tmpPassos"};
+  std::vector<int> momentos;
+};
+
+TEST_F(TelasPequenas, TheSplashWaitsInElevenStepsAndLetsEventsThroughBeforeEach) {
+  Cronometro cronometro(host);
+  host.show(cronometro);
+  const int antes = host.eventsLetThrough();
+  programa.telas().obter<frmSplash>("frmSplash").vCarregar();
+  EXPECT_THAT(cronometro.momentos, testing::ElementsAre(350, 530, 710, 890, 1070, 1250, 1430, 1610, 1790, 1970, 2150));
+  EXPECT_EQ(12, host.eventsLetThrough() - antes) << "once when the message is put up";
+  cronometro.unload();
+}
+
 TEST_F(TelasPequenas, TheSplashTellsWhoMadeTheProgram) {
   auto& splash = programa.telas().obter<frmSplash>("frmSplash");
   splash.vCarregar();
@@ -198,6 +222,40 @@ TEST_F(LocalizarBD, TheOriginalPlaceIsWrittenAndTheProgramEnds) {
                     [](Screen& tela) { dynamic_cast<frmLocalizarBD&>(tela).cmdConfiguracaoOriginal.userClick(); });
   EXPECT_EQ(0, programa.codigoDeSaida([&] { programa.dbConectar().Dados(); }));
   EXPECT_EQ(programa.pasta().arquivo("Dados.mdb") + "\r\n", ini());
+}
+
+TEST_F(LocalizarBD, WithAStoreInPlaceAFileThatWasFoundIsStoredAndTheScreenStays) {
+  programa.abrirPrograma();
+  outra.gravar("Dados.mdb", "x");
+  aberta([&](frmLocalizarBD& tela) {
+    tela.txtEnderecoAtual.userType(outra.arquivo("Dados.mdb"));
+    host.expectBox(informacao("Banco de Dados encontrado."));
+    tela.cmdTestarConexao.userClick();
+    host.verify();
+    EXPECT_EQ(Screen::State::loaded, tela.state());
+    tela.userKey(Key::escape);
+    EXPECT_EQ(Screen::State::unloaded, tela.state());
+  });
+  EXPECT_EQ(outra.arquivo("Dados.mdb") + "\r\n", ini());
+}
+
+TEST_F(LocalizarBD, WithAStoreInPlaceTheOriginalPlaceIsWrittenAndTheScreenCloses) {
+  programa.abrirPrograma();
+  programa.pasta().gravar("init.ini", programa.pasta().arquivo("Dados.MDB") + "\r\noutra linha\r\n");
+  aberta([](frmLocalizarBD& tela) { tela.cmdConfiguracaoOriginal.userClick(); });
+  EXPECT_EQ(programa.pasta().arquivo("Dados.mdb") + "\r\n", ini());
+  EXPECT_TRUE(programa.dbConectar().Dados().isOpen());
+}
+
+TEST_F(LocalizarBD, LeavingWithoutAStoreClosesWhatIsOpen) {
+  programa.abrirPrograma();
+  host.expectScreen("frmLocalizarBD", [](Screen& tela) {
+    auto& cmdFechar = dynamic_cast<frmLocalizarBD&>(tela).cmdFechar;
+    cmdFechar.setCaption("&Sair");
+    cmdFechar.userClick();
+  });
+  EXPECT_EQ(0, programa.codigoDeSaida([&] { host.showModal(programa.telas().obter("frmLocalizarBD")); }));
+  EXPECT_FALSE(programa.dbConectar().Dados().isOpen());
 }
 
 TEST_F(LocalizarBD, WithAStoreInPlaceTheButtonOnlyCloses) {

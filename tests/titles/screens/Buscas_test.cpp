@@ -27,6 +27,51 @@ struct Passo {
   std::vector<std::string> achados;
 };
 
+/// The caption of the group in which a control stands; empty where it stands in none.
+std::string grupoDe(const LayoutNode& no, const Control& controle, const std::string& legenda = {}) {
+  if (no.control == &controle) return legenda;
+  for (const LayoutNode& filho : no.children) {
+    const bool bGrupo = no.kind == LayoutNode::Kind::frame;
+    if (std::string achado = grupoDe(filho, controle, bGrupo ? no.caption : legenda); !achado.empty()) return achado;
+  }
+  return {};
+}
+
+/// Notes when a button goes out of reach and comes back, and when a list is filled between.
+class Anotador final : public ControlView {
+ public:
+  Anotador(Control& controle, std::vector<std::string>& notas) : controle_(controle), notas_(notas) {
+    controle_.attach(*this);
+  }
+  ~Anotador() override { controle_.detach(*this); }
+  Anotador(const Anotador&) = delete;
+  Anotador& operator=(const Anotador&) = delete;
+  void controlChanged(Aspect aspecto) override {
+    if (aspecto == Aspect::enabled) anotar(controle_.enabled() ? "livre" : "presa");
+    if (aspecto == Aspect::items) anotar("lista");
+  }
+
+ private:
+  void anotar(const char* nota) {
+    if (notas_.empty() || notas_.back() != nota) notas_.emplace_back(nota);
+  }
+  Control& controle_;
+  std::vector<std::string>& notas_;
+};
+
+/// Takes a title of either side, and notes by which way it came and how the search stood then.
+struct Recebedora final : Screen, ReceptorTituloReceber, ReceptorTituloPagar {
+  explicit Recebedora(UiHost& quem) : Screen(quem, "frmRecebedora") {}
+  void vSetTituloReceberBaixa(const ListItem& item) override { receber("receber", item); }
+  void vSetTituloPagarBaixa(const ListItem& item) override { receber("pagar", item); }
+  void receber(const std::string& sPor, const ListItem& item) {
+    recebido = sPor + " " + item.key() + " " + item.text();
+    aoReceber();
+  }
+  std::string recebido;
+  std::function<void()> aoReceber;
+};
+
 class BuscasTest : public CenarioDeTelas {
  protected:
   BuscasTest() : CenarioDeTelas(&vRegistrarTudo) {}
@@ -47,6 +92,14 @@ class BuscasTest : public CenarioDeTelas {
     cenario.executar(mudar + "dtEmissao = #04/20/2026# WHERE lCodigo = 3");
     cenario.executar("UPDATE " + lado.sTitulos + " SET lNF = 445 WHERE lCodigo = 4");
     cenario.executar("UPDATE " + lado.sTitulos + " SET dtPagamento = #04/05/2026# WHERE lCodigo = 1");
+  }
+
+  /// A user who may do all but that.
+  void cadastrarAnaSem(const std::string& sDireito) {
+    cenario.programa.executarPrograma(
+        "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
+        "bPoderImprimir, bPoderAtualizar) VALUES ('Ana', 'ana', 'x', -1, -1, -1, -1, -1)");
+    cenario.programa.executarPrograma("UPDATE Usuarios SET " + sDireito + " = 0");
   }
 
   /// The search for settlement, opened by its key from the title screen.
@@ -180,6 +233,33 @@ TEST_P(BuscasTest, TheScreensAndTheirControls) {
           bReceber ? "Faturas cliente" : "Faturas do fornecedor", deFaturas);
 }
 
+TEST_P(BuscasTest, TheGroupsAndWhatStandsInThem) {
+  for (const std::string& nome : {lado.titulos.sBuscaBaixa, lado.titulos.sBusca, lado.faturas.sBusca}) {
+    const Screen& tela = carregada<Screen>(nome);
+    const auto grupo = [&](const std::string& controle) { return grupoDe(tela.layout(), *tela.control(controle)); };
+    const auto especie = [&](const std::string& controle) { return tela.control(controle)->kind(); };
+    std::vector<std::pair<std::string, std::string>> periodos{{"Emissao", "Emissão"}};
+    if (nome != lado.faturas.sBusca) {
+      periodos.insert(periodos.end(), {{"Vencimento", "Vencimento"}, {"Pagamento", "Pagamento"}});
+      EXPECT_EQ(dynamic_cast<const CheckBox&>(*tela.control("chkPago")).caption(), "Pa&go") << nome;
+      EXPECT_EQ(especie("txtCodigoInf"), ControlKind::textBox);
+      EXPECT_EQ(especie("txtNF"), ControlKind::moneyBox);
+    } else {
+      for (const char* controle : {"txtCondPagCodigoInf", "txtNumeroParcelas", "txtIntervalo", "chkEntrada"})
+        EXPECT_EQ(grupo(controle), "Condição de pagamento") << controle;
+      for (const char* controle : {"txtTotal", "txtEntrada"}) EXPECT_EQ(especie(controle), ControlKind::moneyBox);
+    }
+    EXPECT_EQ(especie("txtNumeroFatura"), ControlKind::numberBox);
+    for (const auto& [periodoBuscado, legenda] : periodos) {
+      for (const std::string& controle :
+           {"chk" + periodoBuscado, "dt" + periodoBuscado + "Inicial", "dt" + periodoBuscado + "Final"})
+        EXPECT_EQ(grupo(controle), legenda) << nome << " " << controle;
+      EXPECT_EQ(tela.control("dt" + periodoBuscado + "Inicial")->label(), "Incial");
+      EXPECT_EQ(tela.control("dt" + periodoBuscado + "Final")->label(), "Final");
+    }
+  }
+}
+
 TEST_P(BuscasTest, APeriodIsTodayAndOutOfReachUntilItsBoxIsTicked) {
   auto& tela = carregada<TelaBuscaTitulos>(lado.titulos.sBusca);
   for (PeriodoBusca* p :
@@ -297,6 +377,21 @@ TEST_P(BuscasTest, WhatTheFilterOfInvoicesAsksForAndFinds) {
     });
 }
 
+TEST_P(BuscasTest, OnlyAKeyFromOneOnAsksForSomething) {
+  for (const std::int32_t lChave : {0, -1}) {
+    const auto escolher = [lChave](FormularioBuscaLado& tela) {
+      for (CampoBusca* busca : tela.entidades.buscas()) busca->lCodigo = lChave;
+    };
+    auto& titulosBuscados = carregada<TelaBuscaTitulos>(lado.titulos.sBusca);
+    escolher(titulosBuscados);
+    EXPECT_EQ(titulosBuscados.sClausula(), "WHERE MID(sCodigoInf, 1, 0) = '' AND (fValorPago <= 0) ");
+    auto& faturasBuscadas = carregada<TelaBuscaFaturas>(lado.faturas.sBusca);
+    escolher(faturasBuscadas);
+    faturasBuscadas.condicao.busca.lCodigo = lChave;
+    EXPECT_EQ(faturasBuscadas.sClausula(), "");
+  }
+}
+
 TEST_P(BuscasTest, WhatTheSearchForSettlementAsksForAndFinds) {
   encher();
   const std::string fim = " ORDER BY sCodigoInf ";
@@ -348,6 +443,8 @@ TEST_P(BuscasTest, TheListForSettlementHasTheColumnsOfTheTitleScreenAndTheInvoic
     ASSERT_EQ(tela.lstLista.columns().size(), colunas.size() + 1);
     for (std::size_t i = 0; i < colunas.size(); ++i) {
       EXPECT_EQ(tela.lstLista.columns()[i].heading, colunas[i].heading);
+      EXPECT_EQ(tela.lstLista.columns()[i].width, colunas[i].width) << colunas[i].heading;
+      EXPECT_EQ(tela.lstLista.columns()[i].align, colunas[i].align) << colunas[i].heading;
       if (colunas[i].heading != "Pagamento") {
         EXPECT_EQ(celulas(*tela.lstLista.item(0))[i], celulas(*titulos().lstLista.item(0))[i]) << colunas[i].heading;
       } else {
@@ -355,6 +452,7 @@ TEST_P(BuscasTest, TheListForSettlementHasTheColumnsOfTheTitleScreenAndTheInvoic
       }
     }
     EXPECT_EQ(tela.lstLista.columns().back().heading, "Nº da fatura");
+    EXPECT_GT(tela.lstLista.columns().back().width, 0);
     EXPECT_EQ(celulas(*tela.lstLista.item(2)).back(), "20");
     EXPECT_EQ(tela.lstLista.item(2)->key(), "000004");
     tela.userKey(Key::escape);
@@ -394,6 +492,40 @@ TEST_P(BuscasTest, TwoClicksOnOneRowBringItsTitleToBeSettled) {
   });
 }
 
+TEST_P(BuscasTest, TheRowIsHandedOverByItsSidesNameWhileTheSearchStillStands) {
+  encher();
+  Recebedora chamadora(host);
+  host.expectScreen(lado.titulos.sBuscaBaixa, [&](Screen& tela) {
+    auto& busca = dynamic_cast<TelaBuscaBaixa&>(tela);
+    chamadora.aoReceber = [&] {
+      EXPECT_EQ(cenario.programa.configuracoes().lGetClickAnterior(), -1) << "forgotten before it is handed over";
+      EXPECT_EQ(busca.state(), Screen::State::loaded) << "closed only after";
+    };
+    busca.lstLista.userClickRow(1);
+    host.sleep(std::chrono::hours(1));
+    EXPECT_EQ(chamadora.recebido, "");
+    busca.lstLista.userClickRow(1);
+    EXPECT_EQ(tela.state(), Screen::State::unloaded);
+  });
+  carregada<TelaBuscaBaixa>(lado.titulos.sBuscaBaixa).vLocalizar(chamadora);
+  EXPECT_EQ(chamadora.recebido,
+            (lado.sTitulos == "TitulosReceber" ? "receber" : "pagar") + std::string(" 000003 000001/003"));
+}
+
+TEST_P(BuscasTest, ASortedListHandsOverTheRowThatWasClicked) {
+  encher();
+  naBaixa([&](TelaBuscaBaixa& tela) {
+    tela.lstLista.userClickColumn(1);
+    EXPECT_EQ(primeiraColuna(tela.lstLista), abertos) << "ascending first";
+    tela.lstLista.userClickColumn(1);
+    EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("d'avulso", "000002/001", "000001/003", "000001/002"));
+    tela.lstLista.userClickRow(1);
+    tela.lstLista.userClickRow(1);
+  });
+  EXPECT_EQ(titulos().txtCodigoInf.text(), "000002/001");
+  EXPECT_EQ(titulos().lGetCodigo(), 4);
+}
+
 TEST_P(BuscasTest, ARowThatWasClickedOnInTheTitleScreenNeedsTwoClicksInTheSearch) {
   encher();
   titulos().lstLista.userClickRow(1);
@@ -418,6 +550,9 @@ TEST_P(BuscasTest, APageIsTurnedUnderTheFilter) {
     EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("000002/001", "d'avulso"));
     tela.scrPaginas.userMove(1);
     EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("z"));
+    tela.userKey(Key::f6);
+    EXPECT_THAT(primeiraColuna(tela.lstLista), ElementsAre("000002/001", "d'avulso")) << "a search starts over";
+    EXPECT_EQ(tela.scrPaginas.value(), 0);
     tela.userKey(Key::escape);
   });
 }
@@ -425,8 +560,11 @@ TEST_P(BuscasTest, APageIsTurnedUnderTheFilter) {
 TEST_P(BuscasTest, WidthsAreKeptWhicheverWayTheSearchIsClosed) {
   encher();
   float fEsperada = 1700;
+  const std::string sLarguras = "list/" + lado.titulos.sBuscaBaixa + ".lstList.XML";
+  EXPECT_FALSE(cenario.programa.pasta().existe(sLarguras));
   for (const auto& fechar : std::vector<std::function<void(TelaBuscaBaixa&)>>{
            [](TelaBuscaBaixa& tela) { tela.userKey(Key::escape); }, [](TelaBuscaBaixa& tela) { tela.userClose(); },
+           [](TelaBuscaBaixa& tela) { tela.cmdFechar.userClick(); },
            [](TelaBuscaBaixa& tela) {
              tela.lstLista.userClickRow(2);
              tela.lstLista.userClickRow(2);
@@ -438,6 +576,8 @@ TEST_P(BuscasTest, WidthsAreKeptWhicheverWayTheSearchIsClosed) {
       fechar(tela);
       EXPECT_EQ(tela.state(), Screen::State::unloaded);
     });
+    EXPECT_THAT(cenario.programa.pasta().ler(sLarguras),
+                testing::StartsWith("<root>\r\n<size>" + std::to_string(static_cast<int>(fEsperada)) + "</size>\r\n"));
   }
   naBaixa([&](TelaBuscaBaixa& tela) {
     EXPECT_EQ(tela.lstLista.columns()[0].width, fEsperada);
@@ -529,15 +669,50 @@ TEST_P(BuscasTest, TheConditionOfASearchForInvoices) {
   });
 }
 
+TEST_P(BuscasTest, EnterGoesOnToTheNextBox) {
+  encher();
+  const auto confere = [](Screen& tela, Control& primeira, Control& segunda) {
+    EXPECT_EQ(tela.focused(), &primeira);
+    tela.userKey(Key::enter);
+    EXPECT_EQ(tela.focused(), &segunda);
+    tela.userKey(Key::escape);
+    EXPECT_EQ(tela.state(), Screen::State::unloaded);
+  };
+  naBaixa([&](TelaBuscaBaixa& tela) { confere(tela, tela.txtNumeroFatura, tela.txtCodigoInf); });
+  noFiltroDeTitulos([&](TelaBuscaTitulos& tela) { confere(tela, tela.txtNumeroFatura, tela.txtCodigoInf); });
+  noFiltroDeFaturas([&](TelaBuscaFaturas& tela) { confere(tela, tela.txtNumeroFatura, tela.txtTotal); });
+}
+
+TEST_P(BuscasTest, TheButtonIsOutOfReachWhileTheListIsFilled) {
+  encher();
+  const auto confere = [](Screen& busca, ListView& lista) {
+    std::vector<std::string> notas;
+    {
+      const Anotador doBotao(*busca.control("cmdLocalizar"), notas);
+      const Anotador daLista(lista, notas);
+      busca.userKey(Key::f6);
+    }
+    EXPECT_THAT(notas, ElementsAre("presa", "lista", "livre")) << busca.sGetName();
+    busca.userKey(Key::escape);
+  };
+  naBaixa([&](TelaBuscaBaixa& tela) { confere(tela, tela.lstLista); });
+  noFiltroDeTitulos([&](TelaBuscaTitulos& tela) { confere(tela, titulos().lstLista); });
+  noFiltroDeFaturas([&](TelaBuscaFaturas& tela) { confere(tela, faturas().lstLista); });
+}
+
 TEST_P(BuscasTest, SearchingNeedsTheRightEachTime) {
-  cenario.programa.executarPrograma(
-      "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
-      "bPoderImprimir, bPoderAtualizar) VALUES ('Ana', 'ana', 'x', -1, -1, 0, 0, -1)");
+  cadastrarAnaSem("bPoderPesquisar");
   encher();
   const auto semDireito = [this](Screen& tela) {
+    std::vector<std::string> notas;
     cenario.programa.permissoes().vSetPermissoes(1);
     host.expectBox(semPermissao());
-    tela.userKey(Key::f6);
+    {
+      const Anotador doBotao(*tela.control("cmdLocalizar"), notas);
+      tela.userKey(Key::f6);
+    }
+    host.verify();
+    EXPECT_THAT(notas, IsEmpty()) << "asked before the button is taken out of reach";
     cenario.programa.permissoes().vSetPermissoes(0);
   };
   naBaixa([&](TelaBuscaBaixa& tela) {
@@ -552,6 +727,39 @@ TEST_P(BuscasTest, SearchingNeedsTheRightEachTime) {
     EXPECT_EQ(primeiraColuna(titulos().lstLista), abertos);
     tela.userKey(Key::escape);
   });
+  noFiltroDeFaturas([&](TelaBuscaFaturas& tela) {
+    tela.txtNumeroFatura.userType("10");
+    semDireito(tela);
+    EXPECT_THAT(primeiraColuna(faturas().lstLista), ElementsAre("10", "20", "20"));
+    tela.userKey(Key::escape);
+  });
+}
+
+TEST_P(BuscasTest, WithoutTheRightToSearchNoSearchOpens) {
+  cadastrarAnaSem("bPoderPesquisar");
+  encher();
+  Screen& dosTitulos = titulos();
+  Screen& dasFaturas = faturas();
+  cenario.programa.permissoes().vSetPermissoes(1);
+  for (const auto& [tela, tecla] : {std::pair(&dosTitulos, Key::f6), {&dosTitulos, Key::f7}, {&dasFaturas, Key::f6}}) {
+    host.expectBox(semPermissao());
+    tela->userKey(tecla);
+    host.verify();
+  }
+}
+
+TEST_P(BuscasTest, TheListForSettlementIsPrintedOnlyWithTheRight) {
+  cadastrarAnaSem("bPoderImprimir");
+  encher();
+  cenario.programa.telas().registrar<OpcoesDeTeste>("frmOpcoesRelList");
+  cenario.programa.permissoes().vSetPermissoes(1);
+  naBaixa([&](TelaBuscaBaixa& tela) {
+    host.expectBox(semPermissao());
+    tela.userKey(Key::f5);
+    host.verify();
+    tela.userKey(Key::escape);
+  });
+  EXPECT_EQ(cenario.programa.telas().obter<OpcoesDeTeste>("frmOpcoesRelList").pedido, "");
 }
 
 TEST_P(BuscasTest, TheListForSettlementIsPrintedInLinesOf80) {
@@ -578,6 +786,8 @@ TEST_P(BuscasTest, AScreenThatTakesNoTitleIsReportedAndTheSearchStays) {
     host.expectBox(relatoDeFalha(), BoxAnswer::no);
     busca.lstLista.userClickRow(0);
     EXPECT_EQ(busca.state(), Screen::State::loaded);
+    busca.lstLista.userClickRow(0);
+    EXPECT_EQ(cenario.programa.configuracoes().lGetClickAnterior(), 2) << "two clicks anew";
     tela.userKey(Key::escape);
   });
   carregada<TelaBuscaBaixa>(lado.titulos.sBuscaBaixa).vLocalizar(faturas());
