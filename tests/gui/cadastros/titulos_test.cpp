@@ -6,6 +6,7 @@
 
 #include "gui/cadastros/CadastrosEmJanelas.h"
 #include "platform/base/Format.h"
+#include "platform/ui/ListView.h"
 #include "titles/screens/TelaFaturas.h"
 #include "titles/screens/TelaTitulosCadastro.h"
 #include "titles/services/Lado.h"
@@ -62,6 +63,18 @@ class TitulosEmJanelas : public CadastrosEmJanelas, public testing::WithParamInt
     });
     tecla(Qt::Key_Space);
   }
+  /// The invoice 55 with three open titles.
+  void inserirTresTitulos() {
+    const std::string vendedor = lado.bVendedor ? "lVendedor, " : "";
+    executar("INSERT INTO " + lado.sFaturas + " (lNumeroFatura, dtEmissao, fTotal, fEntrada, " + lado.sChavePessoa +
+             ", lCondicoesPagamento, lPortador, " + vendedor +
+             "lCentroCusto) VALUES (55, #03/01/2026#, 300, 0, 2, 1, 1, " + (lado.bVendedor ? "1, " : "") + "1)");
+    for (const char* numero : {"1", "2", "3"})
+      executar("INSERT INTO " + lado.sTitulos +
+               " (sCodigoInf, dtVencimento, fValor, dtPagamento, fValorPago, fJuros, fDesconto, lNF, sObs, " +
+               lado.sLigacao + ") VALUES ('000001/00" + numero +
+               "', #03/31/2026#, 100, #03/31/2026#, 0, 0, 0, 0, '', 1)");
+  }
   std::string valor(const std::string& sSQL) { return Recordset(sSQL, programa.dbEmpresa().Dados()).field(0).toText(); }
 
   const Lado& lado = GetParam()();
@@ -113,16 +126,7 @@ TEST_P(TitulosEmJanelas, AnInvoiceIsTypedAndItsFirstTitleSettledByKeysAlone) {
 }
 
 TEST_P(TitulosEmJanelas, ATitleIsFoundForSettlementAndPaidByKeysAlone) {
-  const std::string vendedor = lado.bVendedor ? "lVendedor, " : "";
-  executar("INSERT INTO " + lado.sFaturas + " (lNumeroFatura, dtEmissao, fTotal, fEntrada, " + lado.sChavePessoa +
-           ", lCondicoesPagamento, lPortador, " + vendedor +
-           "lCentroCusto) VALUES (55, #03/01/2026#, 300, 0, 2, 1, 1, " + (lado.bVendedor ? "1, " : "") + "1)");
-  for (const char* numero : {"1", "2", "3"})
-    executar("INSERT INTO " + lado.sTitulos +
-             " (sCodigoInf, dtVencimento, fValor, dtPagamento, fValorPago, fJuros, fDesconto, lNF, sObs, " +
-             lado.sLigacao + ") VALUES ('000001/00" + numero +
-             "', #03/31/2026#, 100, #03/31/2026#, 0, 0, 0, 0, '', 1)");
-
+  inserirTresTitulos();
   auto& titulos = dynamic_cast<TelaTitulosCadastro&>(abrir(lado.titulos.sNome));
   aoSurgir(lado.titulos.sBuscaBaixa, [&] {
     Screen& busca = *host.activeScreen();
@@ -154,6 +158,29 @@ TEST_P(TitulosEmJanelas, ATitleIsFoundForSettlementAndPaidByKeysAlone) {
   });
   tecla(Qt::Key_F6);
   EXPECT_EQ(titulos.lstLista.item(0)->text(), "000001/002");
+  titulos.unload();
+}
+
+TEST_P(TitulosEmJanelas, ADoubleClickInTheSearchBringsTheTitleAndTwoSlowClicksDoToo) {
+  inserirTresTitulos();
+  auto& titulos = dynamic_cast<TelaTitulosCadastro&>(abrir(lado.titulos.sNome));
+  for (const bool bDuplo : {true, false}) {
+    aoSurgir(lado.titulos.sBuscaBaixa, [&] {
+      Screen& busca = *host.activeScreen();
+      auto& lista = dynamic_cast<ListView&>(*busca.control("lstLista"));
+      clickRow(lista, 2);
+      EXPECT_EQ(busca.state(), Screen::State::loaded);
+      if (!bDuplo) return clickRow(lista, 2);
+      const auto& view = dynamic_cast<QTreeView&>(*widgetOf(lista));
+      const QPoint lugar = view.visualRect(view.currentIndex()).center();
+      QMouseEvent segundo(QEvent::MouseButtonDblClick, lugar, view.viewport()->mapToGlobal(QPointF(lugar)),
+                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+      QCoreApplication::sendEvent(view.viewport(), &segundo);
+    });
+    tecla(Qt::Key_F7);
+    EXPECT_EQ(titulos.txtCodigoInf.text(), "000001/003");
+    tecla(Qt::Key_F2);
+  }
   titulos.unload();
 }
 

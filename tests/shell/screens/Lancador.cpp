@@ -358,6 +358,41 @@ TEST_F(Inicio, ALastCompanyThatIsOutOfDateEndsTheRunFromTheSplash) {
   EXPECT_EQ("frmSplash", sAtras);
 }
 
+TEST_F(Inicio, TheCitiesAreThereBeforeTheSplashAndTheMainWindowComesAfterIt) {
+  {
+    Rodada rodada(pasta, vRegistrarTelas);
+    rodada.hostDeTeste().expectBox(informacao(sAtualizado));
+    ASSERT_EQ(exitRestart, iniciar(rodada));
+  }
+  pasta.gravar("Empresa.XML", "<root><emp><cod>1</cod><file>loja.MDB</file><path>/nada/</path></emp></root>");
+  Rodada rodada(pasta, vRegistrarTelas);
+  TestHost& host = rodada.hostDeTeste();
+  std::string sCidades;
+  std::vector<std::string> mostradas;
+  host.then([&] {
+    sCidades = Recordset("SELECT COUNT(lCodigo) AS n FROM Cidades", rodada.dbConectar().Dados())["n"].toText();
+    for (const Screen* tela : host.shown()) mostradas.push_back(tela->sGetName());
+  });
+  host.expectBox(aviso("/nada/loja.MDB\r\n\r\nO arquivo não foi localizado."));
+  esperarPrimeiroUsuario(host);
+  esperarSistema(host);
+  EXPECT_EQ(std::nullopt, iniciar(rodada));
+  EXPECT_EQ("2", sCidades);
+  EXPECT_THAT(mostradas, ElementsAre("frmSplash"));
+}
+
+TEST_F(Inicio, TheFirstUserIsAskedForWhereNoLoginIsToo) {
+  primeiroInicio();
+  executarPrograma("DELETE * FROM Usuarios");
+  Rodada rodada(pasta, vRegistrarTelas);
+  TestHost& host = rodada.hostDeTeste();
+  host.expectBox(critica(sSemUsuarios));
+  host.expectScreen("frmCadastroUsuarios", cadastrarAdministrador);
+  host.expectBox(informacao("Usuário ADMINISTRADOR foi cadastrado corretamente."));
+  EXPECT_EQ(std::nullopt, iniciar(rodada));
+  EXPECT_EQ(0, rodada.permissoes().lGetCodigoUsuario()) << "everybody may do everything";
+}
+
 TEST_F(Inicio, ALostLastCompanyIsToldDuringTheSplash) {
   primeiroInicio();
   pasta.gravar("Empresa.XML", "<root><emp><cod>1</cod><file>loja.MDB</file><path>/nada/</path></emp></root>");

@@ -315,14 +315,9 @@ bool QtHost::eventFilter(QObject* watched, QEvent* event) {
 bool QtHost::screenKey(ScreenWindow& window, const QKeyEvent& event) {
   const Key key = keyOf(event);
   if (key == Key::none) return false;
-  if (event.key() == Qt::Key_Backtab) {
+  if (isFunctionKey(key) || key == Key::enter || key == Key::tab || key == Key::escape ||
+      event.key() == Qt::Key_Backtab)
     window.commitFocused();
-    enter([&] {
-      if (window.shown() != nullptr) window.shown()->focusPrevious();
-    });
-    return true;
-  }
-  if (isFunctionKey(key) || key == Key::enter || key == Key::tab || key == Key::escape) window.commitFocused();
   bool dealtWith = false;
   enter([&] {
     if (window.shown() != nullptr) dealtWith = window.shown()->userKey(key);
@@ -332,6 +327,10 @@ bool QtHost::screenKey(ScreenWindow& window, const QKeyEvent& event) {
 
 bool QtHost::afterScreenKey(ScreenWindow& window, const QKeyEvent& event) {
   Screen& screen = *window.shown();
+  if (event.key() == Qt::Key_Backtab) {
+    enter([&] { screen.focusPrevious(); });
+    return true;
+  }
   switch (keyOf(event)) {
     case Key::tab:
       enter([&] { screen.focusNext(); });
