@@ -72,6 +72,15 @@ struct Recebedora final : Screen, ReceptorTituloReceber, ReceptorTituloPagar {
   std::function<void()> aoReceber;
 };
 
+/// A screen with a list, which notes what it was asked for.
+struct Listadora final : Screen, TelaComLista {
+  explicit Listadora(UiHost& quem) : Screen(quem, "frmListadora") {}
+  void vMontarLista(std::int16_t iInicio, const std::string& sWhere) override {
+    pedidos.push_back(std::to_string(iInicio) + " " + sWhere);
+  }
+  std::vector<std::string> pedidos;
+};
+
 class BuscasTest : public CenarioDeTelas {
  protected:
   BuscasTest() : CenarioDeTelas(&vRegistrarTudo) {}
@@ -323,6 +332,25 @@ TEST_P(BuscasTest, OpeningAFilterChangesNothingInTheListBelow) {
   faturas().vMontarLista(0, "WHERE lNumeroFatura = 10 ");
   noFiltroDeFaturas([&](TelaBuscaFaturas& tela) { tela.userClose(); });
   EXPECT_THAT(primeiraColuna(faturas().lstLista), ElementsAre("10"));
+}
+
+TEST_P(BuscasTest, AFilterAsksTheScreenBelowForItsFirstPageOncePerSearchAndAtNoOtherTime) {
+  const std::string abertosDeTodos = "0 WHERE MID(sCodigoInf, 1, 0) = '' AND (fValorPago <= 0) ";
+  for (const auto& [nome, esperado] : {std::pair(lado.titulos.sBusca, abertosDeTodos), {lado.faturas.sBusca, "0 "}}) {
+    Listadora listadora(host);
+    host.expectScreen(nome, [&, esperado = esperado](Screen& tela) {
+      EXPECT_THAT(listadora.pedidos, IsEmpty());
+      tela.userKey(Key::f6);
+      EXPECT_THAT(listadora.pedidos, ElementsAre(esperado));
+      dynamic_cast<NumberBox&>(*tela.control("txtNumeroFatura")).userType("7");
+      dynamic_cast<Button&>(*tela.control("cmdLocalizar")).userClick();
+      EXPECT_THAT(listadora.pedidos, ElementsAre(esperado, testing::StartsWith("0 WHERE lNumeroFatura = 7 ")));
+      tela.userClose();
+    });
+    cenario.programa.telas().obter<TelaBusca>(nome).vLocalizar(listadora);
+    host.verify();
+    EXPECT_THAT(listadora.pedidos, SizeIs(2));
+  }
 }
 
 TEST_P(BuscasTest, WhatTheFilterOfInvoicesAsksForAndFinds) {
@@ -749,6 +777,13 @@ TEST_P(BuscasTest, WithoutTheRightToSearchNoSearchOpens) {
     tela->userKey(tecla);
     host.verify();
   }
+  // Its own one search at the opening asks as well.
+  host.expectBox(semPermissao());
+  host.expectScreen(lado.titulos.sBuscaBaixa, [](Screen& tela) {
+    EXPECT_THAT(dynamic_cast<TelaBuscaBaixa&>(tela).lstLista.items(), IsEmpty());
+    tela.userKey(Key::escape);
+  });
+  cenario.programa.telas().obter<TelaBusca>(lado.titulos.sBuscaBaixa).vLocalizar(dosTitulos);
 }
 
 TEST_P(BuscasTest, TheListForSettlementIsPrintedOnlyWithTheRight) {
