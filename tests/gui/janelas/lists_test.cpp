@@ -30,6 +30,23 @@ TEST_F(Listas, ArrowKeysMoveTheCursorAndPickNothing) {
   EXPECT_EQ(tela.lstLista.selectedItem(), tela.lstLista.item(59));
 }
 
+TEST_F(Listas, TheRowThatTheKeysStartFromIsMarkedAsSoonAsTheListHasTheFocus) {
+  const auto groundOf = [this](int row) {
+    const QRect line = view().visualRect(view().model()->index(row, 1));
+    return view().viewport()->grab().toImage().pixelColor(line.left() + 1, line.bottom());
+  };
+  const Tokens& tokens = host.theme().tokens();
+  tela.txtTexto.setFocus();
+  EXPECT_EQ(groundOf(0), tokens.base);
+  tela.lstLista.setFocus();
+  EXPECT_EQ(groundOf(0), tokens.cursor);
+  key(Qt::Key_Down);
+  EXPECT_EQ(groundOf(0), tokens.base);
+  EXPECT_EQ(groundOf(1), tokens.cursor);
+  tela.txtTexto.setFocus();
+  EXPECT_EQ(groundOf(1), tokens.cursor) << "the selected row stays marked when the focus has gone";
+}
+
 TEST_F(Listas, SpaceIsAClickOnTheRow) {
   tela.lstLista.setFocus();
   key(Qt::Key_Down);

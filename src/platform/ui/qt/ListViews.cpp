@@ -212,7 +212,9 @@ class RowsView final : public QTreeView {
   /// The ground of a row goes on behind the last column.
   void drawRow(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const Tokens& t = host_.theme().tokens();
-    const bool here = selectionModel()->isSelected(index.siblingAtColumn(header()->logicalIndex(0)));
+    // The toolkit gives a list that gets the focus a current row without selecting it, and keys act on that row.
+    const bool here = selectionModel()->isSelected(index.siblingAtColumn(header()->logicalIndex(0))) ||
+                      (hasFocus() && index.row() == currentIndex().row());
     const QRect line(0, option.rect.y(), viewport()->width(), option.rect.height());
     painter->fillRect(line, here ? t.cursor : index.row() % 2 == 1 ? t.alternate : t.base);
     QTreeView::drawRow(painter, option, index);
