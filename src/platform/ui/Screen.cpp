@@ -1,6 +1,7 @@
 #include "platform/ui/Screen.h"
 
 #include <algorithm>
+#include <iterator>
 
 #include "platform/base/Error.h"
 #include "platform/ui/Control.h"
@@ -9,11 +10,30 @@
 namespace fenvale {
 namespace {
 
-void collect(const LayoutNode& node, std::vector<Control*>& order) {
-  if (node.control != nullptr && node.control->takesFocus()) order.push_back(node.control);
+/// The controls that take the keyboard, in reading order, each with whether Tab stops at it.
+struct Stop {
+  Control* control;
+  bool byTab;
+};
+
+void collect(const LayoutNode& node, std::vector<Stop>& stops) {
+  if (node.control != nullptr && node.control->takesFocus()) stops.push_back({node.control, true});
+  // The keys of a lookup box do what its buttons do; stops at them too would double the way through an invoice.
+  const bool byTab = node.control == nullptr || node.control->kind() != ControlKind::lookupBox;
   for (Control* control : node.beside)
-    if (control->takesFocus()) order.push_back(control);
-  for (const LayoutNode& child : node.children) collect(child, order);
+    if (control->takesFocus()) stops.push_back({control, byTab});
+  for (const LayoutNode& child : node.children) collect(child, stops);
+}
+
+bool stopsNow(const Stop& stop) { return stop.byTab && stop.control->enabled() && stop.control->visible(); }
+
+/// The next stop behind the one that has the keyboard, round the end; from one that Tab passes over, too.
+template <typename Iterator>
+Control* nextStop(Iterator begin, Iterator end, const Control* focused) {
+  const auto here = std::find_if(begin, end, [focused](const Stop& stop) { return stop.control == focused; });
+  auto next = here == end ? end : std::find_if(std::next(here), end, stopsNow);
+  if (next == end) next = std::find_if(begin, end, stopsNow);
+  return next == end ? nullptr : next->control;
 }
 
 }  // namespace
@@ -68,9 +88,11 @@ Control* Screen::control(std::string_view name) const {
 }
 
 std::vector<Control*> Screen::tabOrder() const {
+  std::vector<Stop> stops;
+  collect(layout_, stops);
   std::vector<Control*> order;
-  collect(layout_, order);
-  std::erase_if(order, [](const Control* control) { return !control->enabled() || !control->visible(); });
+  for (const Stop& stop : stops)
+    if (stopsNow(stop)) order.push_back(stop.control);
   return order;
 }
 
@@ -110,17 +132,15 @@ void Screen::moveFocus(Control* control) {
 }
 
 void Screen::focusNext() {
-  const auto order = tabOrder();
-  if (order.empty()) return;
-  const auto here = std::find(order.begin(), order.end(), focused_);
-  setFocus(here == order.end() || here + 1 == order.end() ? *order.front() : **(here + 1));
+  std::vector<Stop> stops;
+  collect(layout_, stops);
+  if (Control* const next = nextStop(stops.begin(), stops.end(), focused_)) setFocus(*next);
 }
 
 void Screen::focusPrevious() {
-  const auto order = tabOrder();
-  if (order.empty()) return;
-  const auto here = std::find(order.begin(), order.end(), focused_);
-  setFocus(here == order.end() || here == order.begin() ? *order.back() : **(here - 1));
+  std::vector<Stop> stops;
+  collect(layout_, stops);
+  if (Control* const next = nextStop(stops.rbegin(), stops.rend(), focused_)) setFocus(*next);
 }
 
 void Screen::activate() {

@@ -57,7 +57,8 @@ class Screen {
   /// Nothing when there is no such control.
   Control* control(std::string_view name) const;
   const LayoutNode& layout() const { return layout_; }
-  /// The controls that Tab stops at now, in reading order of the layout.
+  /// The controls that Tab stops at now, in reading order of the layout. It passes over the buttons of a lookup box,
+  /// whose own keys do the same.
   std::vector<Control*> tabOrder() const;
 
   /// Runs onLoad once, before the first showing or the first use of what it fills.

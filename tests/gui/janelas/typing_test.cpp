@@ -290,6 +290,45 @@ TEST_F(Controles, AButtonIsPressedByMouseAndBySpace) {
   EXPECT_EQ(clicks, 2);
 }
 
+TEST_F(Controles, AFieldThatWasDisabledWhenTheScreenOpenedIsTypedIntoOnceItIsEnabled) {
+  tela.txtDesabilitado.setEnabled(true);
+  tela.txtDesabilitado.setText("");
+  tela.txtDesabilitado.setFocus();
+  write("a");
+  EXPECT_EQ(tela.txtDesabilitado.text(), "a");
+  tela.txtDesabilitado.setEnabled(false);
+  EXPECT_FALSE(widgetOf(tela.txtDesabilitado)->isEnabled());
+}
+
+TEST_F(Janelas, AFieldThatWasHiddenWhenTheScreenOpenedIsSeenOnceItIsVisible) {
+  TelaControles tela(host);
+  tela.txtTexto.setVisible(false);
+  host.show(tela);
+  EXPECT_FALSE(widgetOf(tela.txtTexto)->isVisible());
+  tela.txtTexto.setVisible(true);
+  EXPECT_TRUE(widgetOf(tela.txtTexto)->isVisible());
+  tela.unload();
+}
+
+TEST_F(Janelas, NoControlOpensAWindowOfItsOwnOnTheWayIntoItsScreen) {
+  class Watcher : public QObject {
+   public:
+    int windows = 0;
+
+   protected:
+    bool eventFilter(QObject* watched, QEvent* event) override {
+      const auto* const widget = qobject_cast<QWidget*>(watched);
+      if (widget != nullptr && event->type() == QEvent::Show && widget->isWindow()) ++windows;
+      return false;
+    }
+  } watcher;
+  qApp->installEventFilter(&watcher);
+  TelaControles tela(host);
+  host.show(tela);
+  EXPECT_EQ(watcher.windows, 1);
+  tela.unload();
+}
+
 TEST_F(Controles, AScreenThatIsNotEnabledTakesNoInput) {
   tela.txtTexto.setFocus();
   tela.setEnabled(false);

@@ -347,10 +347,30 @@ TEST_F(Controles, APopUpMenuRunsItsEntryBeforeItReturns) {
   QTimer::singleShot(0, &host, [] {
     auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
     ASSERT_NE(menu, nullptr);
-    for (const auto key : {Qt::Key_Down, Qt::Key_Down, Qt::Key_Return}) QTest::keyClick(menu, key);
+    for (const auto key : {Qt::Key_Down, Qt::Key_Return}) QTest::keyClick(menu, key);
   });
   tela.mnuLista.show();
   EXPECT_EQ(chosen, "titulos");
+}
+
+TEST_F(Controles, APopUpMenuAskedForByKeyOpensUnderItsRowWithTheFirstEntryMarked) {
+  tela.lstLista.setFocus();
+  key(Qt::Key_Down);
+  tela.lstLista.onMouseDown = [this](MouseButton) { tela.mnuLista.show(); };
+  const auto& rows = widget<QTreeView>(tela.lstLista);
+  const QPoint underTheRow = rows.viewport()->mapToGlobal(rows.visualRect(rows.currentIndex()).bottomLeft());
+  QString marked;
+  QPoint place;
+  QTimer::singleShot(0, &host, [&] {
+    const auto* const menu = qobject_cast<QMenu*>(QApplication::activePopupWidget());
+    ASSERT_NE(menu, nullptr);
+    if (menu->activeAction() != nullptr) marked = menu->activeAction()->text();
+    place = menu->pos();
+    QTest::keyClick(QApplication::activePopupWidget(), Qt::Key_Escape);
+  });
+  key(Qt::Key_Menu);
+  EXPECT_EQ(marked, "&Faturas do cliente");
+  EXPECT_EQ(place.y(), underTheRow.y() + 1);
 }
 
 TEST_F(Controles, APopUpMenuLeftByEscapeRunsNothing) {

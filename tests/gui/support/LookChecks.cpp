@@ -185,8 +185,8 @@ std::vector<std::string> overfullRows(const Screen& screen) {
 
 std::vector<std::string> unreachable(QtHost& host, Screen& screen) {
   std::vector<std::string> faults;
-  const auto order = screen.tabOrder();
-  for (const Control* control : order) {
+  for (const Control* control : screen.controls()) {
+    if (!control->takesFocus() || !control->enabled() || !control->visible()) continue;
     const QWidget* const widget = widgetOf(*control);
     if (widget == nullptr) {
       faults.push_back("no widget: " + control->name());
@@ -194,6 +194,7 @@ std::vector<std::string> unreachable(QtHost& host, Screen& screen) {
       faults.push_back("no accessible name: " + control->name());
     }
   }
+  const auto order = screen.tabOrder();
   std::set<const Control*> met;
   for (std::size_t step = 0; step < order.size(); ++step) {
     screen.focusNext();

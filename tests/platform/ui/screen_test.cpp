@@ -24,13 +24,15 @@ class SampleScreen : public Screen {
  public:
   explicit SampleScreen(UiHost& host) : Screen(host, "frmExemplo") {
     setLayout({linha({campo("&Código", txtCodigo, 3), campo("Categoria", txtCategoria, 5, {&cmdNovaCategoria})}),
-               campo("Nome", txtNome, cresce), lista(lstLista, "Registros"), botoes({&cmdSalvar}, {&cmdFechar})});
+               campo("Nome", txtNome, cresce, {&cmdLocalizarNome}), lista(lstLista, "Registros"),
+               botoes({&cmdSalvar}, {&cmdFechar})});
   }
 
   CodeBox txtCodigo{*this, "txtCodigo", 255};
   LookupBox txtCategoria{*this, "txtCategoria"};
   Button cmdNovaCategoria{*this, "cmdNovaCategoria", "Nova categoria"};
   TextBox txtNome{*this, "txtNome", 10};
+  Button cmdLocalizarNome{*this, "cmdLocalizarNome", "Localizar nome"};
   ListView lstLista{*this, "lstLista", {{"Código", 1000}, {"Nome", 5000}}};
   Button cmdSalvar{*this, "cmdSalvar", "Salvar", "salvar", Key::f3};
   Button cmdFechar{*this, "cmdFechar", "Fechar", "fechar", Key::escape};
@@ -82,10 +84,11 @@ TEST_F(ScreenTest, AScreenThatIsOpenIsNotOpenedASecondTime) {
 }
 
 TEST_F(ScreenTest, TabStopsInReadingOrderAndPassesOverWhatIsDisabledOrHidden) {
-  EXPECT_THAT(screen.tabOrder(), ElementsAre(&screen.txtCodigo, &screen.txtCategoria, &screen.cmdNovaCategoria,
-                                             &screen.txtNome, &screen.lstLista, &screen.cmdSalvar, &screen.cmdFechar));
+  EXPECT_THAT(screen.tabOrder(),
+              ElementsAre(&screen.txtCodigo, &screen.txtCategoria, &screen.txtNome, &screen.cmdLocalizarNome,
+                          &screen.lstLista, &screen.cmdSalvar, &screen.cmdFechar));
   screen.txtCategoria.setEnabled(false);
-  screen.cmdNovaCategoria.setVisible(false);
+  screen.cmdLocalizarNome.setVisible(false);
   host.show(screen);
   EXPECT_TRUE(screen.txtCodigo.hasFocus());
   screen.focusNext();
@@ -95,6 +98,16 @@ TEST_F(ScreenTest, TabStopsInReadingOrderAndPassesOverWhatIsDisabledOrHidden) {
   EXPECT_TRUE(screen.cmdFechar.hasFocus());
   screen.focusNext();
   EXPECT_TRUE(screen.txtCodigo.hasFocus());
+}
+
+TEST_F(ScreenTest, TabGoesOnFromTheButtonOfALookupBoxThatItPassesOver) {
+  host.show(screen);
+  screen.cmdNovaCategoria.setFocus();
+  screen.focusNext();
+  EXPECT_TRUE(screen.txtNome.hasFocus());
+  screen.cmdNovaCategoria.setFocus();
+  screen.focusPrevious();
+  EXPECT_TRUE(screen.txtCategoria.hasFocus());
 }
 
 TEST_F(ScreenTest, LeavingAndEnteringAreRaisedInThatOrder) {

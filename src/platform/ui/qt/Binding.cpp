@@ -34,7 +34,11 @@ void Binding::controlGone() {
 }
 
 void Binding::setShell(QWidget& shell) {
+  // The shell speaks for both from here on; what was set on the widget itself would outlast it.
+  widget_.setEnabled(true);
+  if (widget_.parentWidget() != nullptr) widget_.setVisible(true);
   shell_ = &shell;
+  showEnabled();
   showVisible();
 }
 
@@ -78,7 +82,8 @@ void Binding::controlChanged(Aspect aspect) {
 void Binding::showEnabled() { shell_->setEnabled(control_->enabled()); }
 
 void Binding::showVisible() {
-  shell_->setVisible(control_->visible());
+  // Without a place yet it would open a window of its own; it is seen with the one that it is put into.
+  if (shell_->parentWidget() != nullptr || !control_->visible()) shell_->setVisible(control_->visible());
   if (auto* window = dynamic_cast<ScreenWindow*>(widget_.window())) window->controlVisibilityChanged();
 }
 

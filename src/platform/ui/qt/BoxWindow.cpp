@@ -20,7 +20,7 @@
 namespace fenvale::qt {
 namespace {
 
-constexpr int widestText = 560;
+constexpr int widestText = 640;
 constexpr int iconSide = 36;
 
 const char* iconOf(BoxStyle style) {
@@ -89,6 +89,8 @@ QWidget* BoxWindow::textPart() {
   }
   QString text = toQt(box_.text);
   text.replace(QStringLiteral("\r\n"), QStringLiteral("\n"));
+  // An amount is not torn from its currency at the end of a line.
+  text.replace(QStringLiteral("R$ "), QStringLiteral("R$\u00a0"));
   auto* const label = new QLabel(text);
   label->setObjectName(QStringLiteral("text"));
   label->setTextFormat(Qt::PlainText);

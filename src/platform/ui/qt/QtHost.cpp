@@ -44,6 +44,13 @@ bool isInput(QEvent::Type type) {
   }
 }
 
+QAction* firstEnabled(const QMenu& menu) {
+  const QList<QAction*> actions = menu.actions();
+  const auto found = std::find_if(actions.begin(), actions.end(),
+                                  [](const QAction* action) { return action->isEnabled() && !action->isSeparator(); });
+  return found == actions.end() ? nullptr : *found;
+}
+
 }  // namespace
 
 QtHost::QtHost(HostOptions options)
@@ -206,6 +213,7 @@ void QtHost::popupMenu(PopupMenu& menu) {
     QEventLoop loop;
     QObject::connect(&view, &QMenu::aboutToHide, &loop, &QEventLoop::quit);
     view.popup(shown->window->popupPlace());
+    if (QGuiApplication::mouseButtons() == Qt::NoButton) view.setActiveAction(firstEnabled(view));
     wait(loop);
     // The entry is told right after the menu hides.
     QCoreApplication::sendPostedEvents(&view);

@@ -1,5 +1,6 @@
 #include "platform/ui/qt/ScreenWindow.h"
 
+#include <QAbstractItemView>
 #include <QCloseEvent>
 #include <QFileInfo>
 #include <QFrame>
@@ -292,8 +293,10 @@ void ScreenWindow::commitFocused() {
 }
 
 QPoint ScreenWindow::popupPlace() const {
-  const QPoint pointer = QCursor::pos();
-  if (geometry().contains(pointer)) return pointer;
+  if (QGuiApplication::mouseButtons() != Qt::NoButton) return QCursor::pos();
+  if (const auto* const rows = qobject_cast<const QAbstractItemView*>(focusWidget());
+      rows != nullptr && rows->currentIndex().isValid())
+    return rows->viewport()->mapToGlobal(QPoint(16, rows->visualRect(rows->currentIndex()).bottom() + 1));
   if (const QWidget* const focused = focusWidget()) return focused->mapToGlobal(QPoint(16, measures::boxHeight));
   return mapToGlobal(rect().center());
 }

@@ -42,7 +42,8 @@ class ScreenWindow final : public QWidget {
   /// Hands over what is typed in the focused box and not yet taken.
   void commitFocused();
   QWidget* widgetOf(const Control& control) const;
-  /// Where a pop-up menu opens: at the pointer when that is over the window, else at the focused control.
+  /// Where a pop-up menu opens: at the pointer while a button of it is down; else somebody works by keys, and it opens
+  /// under the row, or the box, that has the keyboard.
   QPoint popupPlace() const;
 
  protected:
