@@ -68,7 +68,6 @@ TEST_F(TransferenciaVendedoresTest, OpensWithNobodyChosen) {
   EXPECT_EQ(tela.origem.lGetCodigo(), -1);
   EXPECT_EQ(tela.destino.lGetCodigo(), -1);
   tela.userKey(Key::enter);
-  tela.userKey(Key::enter);
   EXPECT_TRUE(tela.txtVendedorDestino.hasFocus()) << "past the button in the box's end";
   tela.userKey(Key::escape);
   EXPECT_EQ(tela.state(), Screen::State::unloaded);
