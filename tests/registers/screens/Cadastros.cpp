@@ -52,6 +52,14 @@ std::int32_t Cadastros::inserir(const std::string& sTabela, const std::string& s
   return std::stoi(valor("SELECT MAX(lCodigo) AS Valor FROM " + sTabela));
 }
 
+std::string Cadastros::recusaDoBanco(const std::string& sSQL) try {
+  executar(sSQL);
+  ADD_FAILURE() << "not refused: " << sSQL;
+  return {};
+} catch (const Error& recusa) {
+  return recusa.description;
+}
+
 Screen& Cadastros::abrir(const std::string& sTela) {
   Screen& tela = programa.telas().obter(sTela);
   host.show(tela);

@@ -17,6 +17,7 @@
 #include "shell/services/Telas.h"
 #include "store/services/ConfiguracoesPrograma.h"
 #include "support/Caixas.h"
+#include "support/Gestos.h"
 #include "support/ProgramaDeTeste.h"
 
 namespace fenvale {
@@ -32,6 +33,9 @@ class Cadastros : public testing::Test {
   std::string valor(const std::string& sSQL);
   /// The key of a new row.
   std::int32_t inserir(const std::string& sTabela, const std::string& sColunas, const std::string& sValores);
+
+  /// What the store says when it refuses the statement; a statement that it takes fails the test.
+  std::string recusaDoBanco(const std::string& sSQL);
 
   /// Opens a screen as the main window does, and leaves it open.
   Screen& abrir(const std::string& sTela);

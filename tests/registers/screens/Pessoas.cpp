@@ -80,11 +80,4 @@ void Pessoas::fingirTitulos(const std::string& sTela) {
   });
 }
 
-std::string Pessoas::recusaDoBanco(const std::string& sSQL) try {
-  executar(sSQL);
-  return {};
-} catch (const Error& recusa) {
-  return recusa.description;
-}
-
 }  // namespace fenvale

@@ -29,9 +29,6 @@ class Pessoas : public Cadastros {
   /// Puts a screen in the place of the titles that notes down what it is asked to list.
   void fingirTitulos(const std::string& sTela);
 
-  /// What the store says when it refuses a statement.
-  std::string recusaDoBanco(const std::string& sSQL);
-
   std::int32_t lCampinas = 0, lSantaBarbara = 0;
   std::string sCidadeEscolhida;
   std::vector<std::string> pedidas;  ///< "0|WHERE ..."

@@ -213,22 +213,16 @@ TEST_F(Clientes, AnEditedCustomersDistrictOfDeliveryBecomesTheMainOne) {
 TEST_F(Clientes, ChecksInTheirOrder) {
   auto& tela = abrirClientes();
   tela.txtCodigoInf.userType("");
-  host.expectBox(aviso("Informe o código."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtCodigoInf.hasFocus());
+  salvarRecusado(host, tela, aviso("Informe o código."), tela.txtCodigoInf);
   EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Categorias"), "0");
 
   tela.txtCodigoInf.userType("1");
-  host.expectBox(aviso("Informe o nome."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtNome.hasFocus());
+  salvarRecusado(host, tela, aviso("Informe o nome."), tela.txtNome);
   EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Categorias"), "1") << "the hidden category comes before the name";
   EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Vendedores"), "0");
 
   tela.txtNome.userType("José Pereira");
-  host.expectBox(aviso("Informe a cidade."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.cidade.txtCidade.hasFocus());
+  salvarRecusado(host, tela, aviso("Informe a cidade."), tela.cidade.txtCidade);
   EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Vendedores"), "0")
       << "the hidden salesperson comes after the city";
 }
@@ -254,22 +248,16 @@ TEST_F(Clientes, TheQuestionsStandBetweenTheRefusals) {
 
   preencher(tela, "Segundo");
   digitar("1", "11144477736", "6061", "11444777000162");
-  host.expectBox(aviso("O RG informado já existe no sistema."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtRG.hasFocus());
+  salvarRecusado(host, tela, aviso("O RG informado já existe no sistema."), tela.txtRG);
   EXPECT_EQ(valor("SELECT COUNT(lCodigo) AS Cont FROM Vendedores WHERE sNome = ''"), "1")
       << "the hidden salesperson comes before the numbers";
 
   tela.txtRG.userType("2");
-  host.expectBox(aviso("O CPF informado já existe no sistema."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtCPF.hasFocus());
+  salvarRecusado(host, tela, aviso("O CPF informado já existe no sistema."), tela.txtCPF);
 
   tela.txtCPF.userType("22244477736");
   host.expectBox(sCPFErrado, BoxAnswer::yes);
-  host.expectBox(aviso("A IE informada já existe no sistema."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtIE.hasFocus());
+  salvarRecusado(host, tela, aviso("A IE informada já existe no sistema."), tela.txtIE);
 
   tela.txtIE.userType("6062");
   host.expectBox(sCPFErrado, BoxAnswer::yes);

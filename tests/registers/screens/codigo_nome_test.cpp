@@ -127,15 +127,11 @@ TEST_P(CodigoNome, TheMarkMovesWithTheClick) {
 
 TEST_P(CodigoNome, AsksForTheCodeThenForTheName) {
   tela.txtCodigoInf.userType("");
-  host.expectBox(aviso("Informe o código."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtCodigoInf.hasFocus());
+  salvarRecusado(host, tela, aviso("Informe o código."), tela.txtCodigoInf);
   EXPECT_TRUE(tela.txtCodigoInf.wrong());
 
   tela.txtCodigoInf.userType("5");
-  host.expectBox(aviso(caso.sExigencia));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtNome.hasFocus());
+  salvarRecusado(host, tela, aviso(caso.sExigencia), tela.txtNome);
   EXPECT_THAT(guardados(), IsEmpty());
 }
 
@@ -209,13 +205,7 @@ TEST_P(CodigoNome, ARecordInUseStays) {
   for (std::size_t i = 0; i < tela.lstLista.items().size(); ++i)
     if (tela.lstLista.item(i)->key() == "00000" + sChave) carregar(i);
   ASSERT_EQ(std::to_string(tela.lGetCodigo()), sChave);
-  std::string sTexto;
-  try {
-    executar(tela.sExclusao());
-  } catch (const Error& recusa) {
-    sTexto = recusa.description;
-  }
-  ASSERT_NE(sTexto, "");
+  const std::string sTexto = recusaDoBanco(tela.sExclusao());
   host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
   host.expectBox(critica("O registro não pode ser excluído.\r\n\r\nInformação detalhada: \r\n\r\n" + sTexto));
   tela.userKey(Key::f4);

@@ -80,9 +80,7 @@ TEST_F(Condicoes, NoInstalmentIsSilentlyOneAndNoIntervalIsKept) {
 TEST_F(Condicoes, AMissingCodeIsAskedForBeforeTheInstalmentsAreMended) {
   auto& tela = abrirCondicoes();
   tela.txtCodigoInf.userType("");
-  host.expectBox(aviso("Informe o código."));
-  tela.userKey(Key::f3);
-  EXPECT_TRUE(tela.txtCodigoInf.hasFocus());
+  salvarRecusado(host, tela, aviso("Informe o código."), tela.txtCodigoInf);
   EXPECT_EQ(tela.txtNumeroParcelas.text(), "");
 }
 
@@ -127,13 +125,7 @@ TEST_F(Condicoes, AConditionInUseStays) {
   tela.userKey(Key::f4);
   EXPECT_TRUE(tela.lstLista.hasFocus());
   tela.lstLista.userClickRow(0);
-  std::string sTexto;
-  try {
-    executar(tela.sExclusao());
-  } catch (const Error& recusa) {
-    sTexto = recusa.description;
-  }
-  ASSERT_NE(sTexto, "");
+  const std::string sTexto = recusaDoBanco(tela.sExclusao());
   host.expectBox(pergunta("Confirma a remoção do registro?"), BoxAnswer::yes);
   host.expectBox(critica("O registro não pode ser excluído.\r\nInformação detalhada: " + sTexto));
   tela.userKey(Key::f4);

@@ -179,10 +179,8 @@ TEST_F(Fornecedores, ChecksInTheirOrder) {
   cadastrar("frmCadastroFornecedores", 1, "Primeiro");
   executar("UPDATE Fornecedores SET sCPF = '111.444.777-35', sIE = '606', sCNPJ = '11.444.777/0001-61'");
   auto& tela = abrirFornecedores();
-  const auto recusado = [&](const char* sMensagem, Control& onde) {
-    host.expectBox(aviso(sMensagem));
-    tela.userKey(Key::f3);
-    EXPECT_TRUE(onde.hasFocus()) << sMensagem;
+  const auto recusado = [&](const char* sMensagem, const Control& onde) {
+    salvarRecusado(host, tela, aviso(sMensagem), onde);
   };
   tela.txtCPF.userType("11144477735");
   tela.txtIE.userType("606");

@@ -6,6 +6,7 @@
 #include <array>
 
 #include "access/services/Permissoes.h"
+#include "support/Gestos.h"
 #include "support/Rotulos.h"
 #include "titles/screens/CenarioDeTelas.h"
 
@@ -14,12 +15,9 @@ namespace {
 
 class FaturasTest : public CenarioDeTelas {
  protected:
-  /// The save is refused with that box, and the focus is on that control.
+  /// The save is refused with that box, the focus is on that control, and nothing is stored.
   void recusa(const MessageBox& caixa, const Control* foco) {
-    host.expectBox(caixa);
-    faturas().userKey(Key::f3);
-    host.verify();
-    EXPECT_EQ(faturas().focused(), foco);
+    salvarRecusado(host, faturas(), caixa, *foco);
     EXPECT_EQ(contar(lado.sFaturas), "0");
     EXPECT_EQ(contar("CentroCusto"), "2") << "the hidden one is made for a form that is whole";
   }

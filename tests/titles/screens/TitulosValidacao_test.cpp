@@ -3,6 +3,7 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
+#include "support/Gestos.h"
 #include "titles/screens/CenarioDeTelas.h"
 
 namespace fenvale {
@@ -10,12 +11,7 @@ namespace {
 
 class TitulosValidacaoTest : public CenarioDeTelas {
  protected:
-  void recusa(const MessageBox& caixa, const Control* foco) {
-    host.expectBox(caixa);
-    titulos().userKey(Key::f3);
-    host.verify();
-    EXPECT_EQ(titulos().focused(), foco);
-  }
+  void recusa(const MessageBox& caixa, const Control* foco) { salvarRecusado(host, titulos(), caixa, *foco); }
   /// The save stops at that box, whatever the focus.
   void para(const MessageBox& caixa, BoxAnswer resposta = BoxAnswer::ok) {
     host.expectBox(caixa, resposta);
