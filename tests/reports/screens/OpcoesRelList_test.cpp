@@ -147,9 +147,14 @@ TEST_F(OpcoesRelList, RememberTheOutputWhenTheyAreClosed) {
   abrir([](frmOpcoesRelList& tela) {
     EXPECT_EQ(tela.cmbSaida.listIndex(), 1);
     tela.cmbSaida.userChoose(2);
-    tela.userKey(Key::escape);
+    tela.userClose();
   });
   EXPECT_EQ(ler("outputRep.XML"), "<root><opt>2</opt></root>\r\n");
+  abrir([](frmOpcoesRelList& tela) {
+    tela.cmbSaida.userChoose(0);
+    tela.cmdFechar.userClick();
+  });
+  EXPECT_EQ(ler("outputRep.XML"), "<root><opt>0</opt></root>\r\n");
 }
 
 TEST_F(OpcoesRelList, WithoutAnOutputChosenTheFileStaysAsItWas) {
