@@ -106,11 +106,12 @@ std::string Cadastros::relato() {
 }
 
 void Cadastros::entrarSem(const std::string& sDireito) {
+  const std::string sLogin = sDireito + std::to_string(++iUsuarios_);
   programa.executarPrograma(
       "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
       "bPoderImprimir, bPoderAtualizar) VALUES ('Beatriz', '" +
-      sDireito + "', 'x', -1, -1, -1, -1, -1)");
-  programa.executarPrograma("UPDATE Usuarios SET " + sDireito + " = 0 WHERE sLogin = '" + sDireito + "'");
+      sLogin + "', 'x', -1, -1, -1, -1, -1)");
+  programa.executarPrograma("UPDATE Usuarios SET " + sDireito + " = 0 WHERE sLogin = '" + sLogin + "'");
   const auto lChave = programa.linhasPrograma("SELECT MAX(lCodigo) AS Valor FROM Usuarios").at(0).at(0);
   programa.permissoes().vSetPermissoes(std::stoi(lChave));
 }

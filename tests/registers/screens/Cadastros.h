@@ -66,6 +66,9 @@ class Cadastros : public testing::Test {
 
   ProgramaDeTeste programa;
   TestHost& host;
+
+ private:
+  int iUsuarios_ = 0;
 };
 
 }  // namespace fenvale

@@ -45,6 +45,7 @@ TEST_P(BuscaCompleta, NarrowsTheRegistersList) {
   host.expectScreen(caso.sBusca, [&](Screen& aberta) {
     auto& busca = dynamic_cast<BuscaCodigoNome&>(aberta);
     EXPECT_EQ(busca.caption(), caso.sLegenda);
+    EXPECT_EQ(formularioDe(busca), formularioDe(tela));
     EXPECT_EQ(busca.sClausula(), std::string("WHERE MID(") + caso.sTexto + ", 1, 0) = '' " + sVisivel);
     EXPECT_EQ(tela.lstLista.items().size(), caso.bLinhaPadrao ? 3u : 4u) << "every row, once, at opening";
 
@@ -543,6 +544,7 @@ TEST_F(Cadastros, TheQuickSearchOfConditionsIsByTheExactCode) {
   host.expectScreen("frmLocalizarCondicoesPagamentoRapido", [&](Screen& aberta) {
     auto& busca = dynamic_cast<TelaBuscaRapida&>(aberta);
     EXPECT_EQ(busca.caption(), "Localizar condições de pagamento");
+    EXPECT_THAT(formularioDe(busca), ElementsAre("Código: txtCodigoInf <= 255"));
     EXPECT_THAT(cabecalhos(busca.lstLista),
                 ElementsAre("Código", "Número de parcelas", "Intervalo de vecimento", "Com entrada"));
     const std::string sInicio =

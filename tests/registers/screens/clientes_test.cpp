@@ -22,13 +22,10 @@ class Clientes : public Pessoas {
 TEST_F(Clientes, ColumnsOfTheList) {
   auto& tela = abrirClientes();
   EXPECT_EQ(tela.title(), "Cadastro de clientes");
-  std::vector<std::string> cabecalhos;
   std::vector<std::string> ocultas;
-  for (const ListColumn& coluna : tela.lstLista.columns()) {
-    cabecalhos.push_back(coluna.heading);
+  for (const ListColumn& coluna : tela.lstLista.columns())
     if (coluna.width == 0) ocultas.push_back(coluna.heading);
-  }
-  EXPECT_THAT(cabecalhos,
+  EXPECT_THAT(cabecalhos(tela.lstLista),
               ElementsAre("Código", "Código interno da categoria", "Categoria", "Nome", "Limite de crédito", "Endereço",
                           "Bairro", "Cidade", "UF", "CEP", "Telefone", "Fax", "Contato", "Código interno do vendedor",
                           "Vendedor", "RG", "CPF", "IE", "CNPJ", "Nascimento", "e-Mail", "Home Page", "Observação",

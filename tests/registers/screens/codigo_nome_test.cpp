@@ -267,11 +267,13 @@ TEST_P(CodigoNome, EveryCommandAsksForItsRight) {
     bool bCarregado;
   };
   for (const Pedido& pedido : {Pedido{"bPoderSalvar", Key::f3, false}, Pedido{"bPoderAtualizar", Key::f3, true},
-                               Pedido{"bPoderExcluir", Key::f4, true}, Pedido{"bPoderPesquisar", Key::f6, false}}) {
+                               Pedido{"bPoderExcluir", Key::f4, true}, Pedido{"bPoderExcluir", Key::f4, false},
+                               Pedido{"bPoderPesquisar", Key::f6, false}}) {
     programa.permissoes().vSetPermissoes(0);
     recarregar();
     if (pedido.bCarregado) carregar(0);
     tela.txtNome.userType("Outro");
+    tela.txtCodigoInf.userType("");  // the right is asked for before anything is checked
     entrarSem(pedido.sDireito);
     const std::size_t iAntes = host.boxes().size();
     host.expectBox(semPermissao());

@@ -32,9 +32,12 @@ class Condicoes : public Cadastros {
 TEST_F(Condicoes, HeadingsAndStatements) {
   auto& tela = abrirCondicoes();
   EXPECT_EQ(tela.caption(), "Condições de pagamento");
-  std::vector<std::string> cabecalhos;
-  for (const ListColumn& coluna : tela.lstLista.columns()) cabecalhos.push_back(coluna.heading);
-  EXPECT_THAT(cabecalhos, ElementsAre("Código", "Número de parcelas", "Intervalo de vecimento", "Com entrada"));
+  EXPECT_EQ(tela.title(), "Cadastro de condições de pagamento");
+  EXPECT_THAT(formularioDe(tela),
+              ElementsAre("Código: txtCodigoInf <= 255", "Número de parcelas: txtNumeroParcelas <= 32767",
+                          "Intervalo de vencimento: txtIntervalo <= 32767"));
+  EXPECT_THAT(cabecalhos(tela.lstLista),
+              ElementsAre("Código", "Número de parcelas", "Intervalo de vecimento", "Com entrada"));
   EXPECT_EQ(tela.sConsulta("WHERE btCodigoInf = 1 "),
             "SELECT lCodigo, btCodigoInf, iNumeroParcelas, iIntervalo, IIF(bitEntrada = 0, 'Não', 'Sim') AS ComEntrada "
             "FROM CondicoesPagamento WHERE btCodigoInf = 1  ORDER BY btCodigoInf ");
@@ -141,6 +144,7 @@ TEST_F(Condicoes, TheFullSearchAlwaysFiltersByTheEntry) {
   host.expectScreen("frmLocalizarCondicoesPagamento", [&](Screen& aberta) {
     auto& busca = dynamic_cast<frmLocalizarCondicoesPagamento&>(aberta);
     EXPECT_EQ(busca.caption(), "Localizar condição de pagamento");
+    EXPECT_EQ(formularioDe(busca), formularioDe(tela));
     EXPECT_EQ(busca.sClausula(), "WHERE bitEntrada = 0 ");
     EXPECT_THAT(listados(tela.lstLista), ElementsAre("1|1|0|Não")) << "searched once at opening";
     busca.chkEntrada.userClick();

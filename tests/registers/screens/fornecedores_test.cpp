@@ -30,15 +30,13 @@ class Fornecedores : public Pessoas {
 TEST_F(Fornecedores, ColumnsOfTheList) {
   auto& tela = abrirFornecedores();
   EXPECT_EQ(tela.caption(), "Fornecedores");
-  std::vector<std::string> cabecalhos;
   std::vector<std::string> ocultas;
-  for (const ListColumn& coluna : tela.lstLista.columns()) {
-    cabecalhos.push_back(coluna.heading);
+  for (const ListColumn& coluna : tela.lstLista.columns())
     if (coluna.width == 0) ocultas.push_back(coluna.heading);
-  }
-  EXPECT_THAT(cabecalhos, ElementsAre("Código", "Código interno da categoria", "Categoria", "Nome", "Endereço",
-                                      "Cidade", "UF", "CEP", "Telefone", "Fax", "Contato", "CPF", "IE", "CNPJ",
-                                      "e-Mail", "Home Page", "Banco", "Agência", "Conta", "Observação"));
+  EXPECT_THAT(cabecalhos(tela.lstLista),
+              ElementsAre("Código", "Código interno da categoria", "Categoria", "Nome", "Endereço", "Cidade", "UF",
+                          "CEP", "Telefone", "Fax", "Contato", "CPF", "IE", "CNPJ", "e-Mail", "Home Page", "Banco",
+                          "Agência", "Conta", "Observação"));
   EXPECT_THAT(ocultas, ElementsAre("Código interno da categoria"));
 }
 

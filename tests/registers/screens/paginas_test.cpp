@@ -66,6 +66,9 @@ TEST_F(Paginas, TheSelectorShowsItsPage) {
   EXPECT_EQ(tela.lstLista.item(0)->text(), "101");
   EXPECT_EQ(tela.scrPaginas.summary(), "Página 2 · 250 registros");
   EXPECT_EQ(tela.lGetCodigo(), -1);
+  tela.userKey(Key::f2);
+  EXPECT_EQ(tela.lstLista.item(0)->text(), "1") << "a new record goes back to the first page";
+  EXPECT_EQ(tela.scrPaginas.value(), 0);
 }
 
 TEST_F(Paginas, ARowOfAnotherPageIsMarkedThoughTheMarkedOneIsGone) {
