@@ -426,6 +426,13 @@ TEST_P(FaturasClienteTest, TheRowsOfTheList) {
                                           "7", "2", "30", "Não", "1", "Carteira", "1", "Maria Aparecida", "1", "Loja"));
 }
 
+TEST_P(FaturasClienteTest, TheCustomerIsAskedFor) {
+  digitarFatura("100,00").entidades.pessoa.busca.vLimpar();
+  host.expectBox(aviso("Informe o cliente."));
+  faturas().userKey(Key::f3);
+  EXPECT_EQ(faturas().focused(), faturas().control("txtCliente"));
+}
+
 INSTANTIATE_TEST_SUITE_P(Receber, FaturasClienteTest, testing::Values(&ladoReceber), nomeDoLado);
 
 TEST(FaturasCliente, TheListsStatement) {

@@ -338,6 +338,32 @@ TEST_P(TitulosReceberTest, TheListsStatement) {
       "FaturasCliente.lCentroCusto = CentroCusto.lCodigo WHERE (fValorPago <= 0)  ORDER BY sCodigoInf ");
 }
 
+TEST_P(TitulosReceberTest, TheCustomerIsAskedFor) {
+  TelaTitulosCadastro& tela = titulos();
+  tela.txtCodigoInf.userType("avulso");
+  host.expectBox(aviso("Informe o cliente."));
+  tela.userKey(Key::f3);
+  EXPECT_EQ(tela.focused(), &receber().txtCliente);
+}
+
+TEST_P(TitulosReceberTest, TheTotalIsChangedInTheRegisterOfTheCustomersInvoices) {
+  criarFatura("1.000,00", umaVez);
+  abrirTitulo("000001/001").txtTotal.userType("1.234,50");
+  host.expectBox(aviso(
+      "O valor total da fatura (R$ 1.000,00) é diferente do valor informado (R$ 1.234,50).\r\nPara alterar o valor "
+      "total da fatura, vá até o formulário Cadastro de Faturas de Clientes (Cadastros -> Faturas de clientes)."));
+  titulos().userKey(Key::f3);
+}
+
+TEST_P(TitulosReceberTest, TheLastTitleOfACustomersInvoiceStays) {
+  criarFatura("100,00", umaVez);
+  abrirTitulo("000001/001");
+  host.expectBox(
+      aviso("Não será possível excluir este título pois é o único relacionado com a fatura de cliente nº 1."));
+  titulos().userKey(Key::f4);
+  EXPECT_THAT(cenario.titulos(1), SizeIs(1));
+}
+
 TEST_P(TitulosReceberTest, TheRowsOfTheList) {
   criarFatura("1.000,00", duasVezes);
   pagarInteiro("000001/001", "500,00");
