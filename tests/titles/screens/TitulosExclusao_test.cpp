@@ -100,6 +100,12 @@ TEST_P(TitulosExclusaoTest, ATitleThatTheStoreKeepsIsNotDeletedAndTheInvoiceStay
   EXPECT_EQ(titulos().lGetCodigo(), 2);
   EXPECT_EQ(titulos().focused(), &titulos().txtCodigoInf);
   EXPECT_EQ(cenario.programa.dbEmpresa().Dados().transactionLevel(), 0);
+
+  titulos().txtObs.userType("fica");
+  host.expectBox(concluida);
+  titulos().userKey(Key::f3);
+  EXPECT_EQ(contar(lado.sFaturas), "1") << "the form still knew the invoice";
+  EXPECT_EQ(doTitulo("000001/002", "sObs").at(0), "fica");
 }
 
 TEST_P(TitulosExclusaoTest, WithoutTheRightNothingIsAsked) {
