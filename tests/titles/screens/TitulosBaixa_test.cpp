@@ -234,7 +234,10 @@ TEST_P(TitulosBaixaTest, AnExcessIsRememberedUntilTheNextOpenTitleIsSaved) {
   titulos().userKey(Key::f3);
   abrirTitulo("000001/001");
   sim(jaPago);
-  EXPECT_THAT(cenario.titulos(1), SizeIs(3)) << "now only a complement would follow, and nothing is left for one";
+  EXPECT_THAT(cenario.titulos(1),
+              ElementsAre("000001/001 31/03/2026 100,00 pago 150,00", "000001/002 30/04/2026 82,50 pago 0,00",
+                          "000001/003 30/05/2026 82,50 pago 0,00"))
+      << "now only a complement would follow, and nothing is left for one";
 }
 
 TEST_P(TitulosBaixaTest, AnExcessIsStillRememberedAfterAPaymentThatWasCancelled) {
@@ -249,13 +252,22 @@ TEST_P(TitulosBaixaTest, AnExcessIsStillRememberedAfterAPaymentThatWasCancelled)
 
 TEST_P(TitulosBaixaTest, APaidInvoiceIsRememberedEvenForTheNextInvoice) {
   criarFatura("300,00");
-  criarFatura("80,00", duasVezes);
-  pagarInteiro("000002/001", "40,00");
+  for (const char* codigo : {"000002/001", "000003/001"}) {
+    criarFatura("80,00", duasVezes);
+    pagarInteiro(codigo, "40,00");
+  }
   pagar("000001/001", "300,00", {{pagaFatura("300,00"), BoxAnswer::yes}, {concluida, BoxAnswer::ok}});
   abrirTitulo("000002/001");
   sim(jaPago);
   EXPECT_THAT(cenario.titulos(2),
               ElementsAre("000002/001 31/03/2026 40,00 pago 40,00", "000002/002 30/04/2026 40,00 pago 40,00"));
+
+  abrirTitulo("000003/002");
+  host.expectBox(concluida);
+  titulos().userKey(Key::f3);
+  abrirTitulo("000003/001");
+  sim(jaPago);
+  EXPECT_EQ(cenario.titulos(3).at(1), "000003/002 30/04/2026 40,00 pago 0,00") << "until an open title is saved";
 }
 
 TEST_P(TitulosBaixaTest, AFailureInTheMiddleOfASaveIsReportedAndUndone) {
