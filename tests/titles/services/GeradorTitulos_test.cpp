@@ -230,6 +230,21 @@ TEST_P(GeradorTitulosTest, NoTitleFallsToZero) {
   EXPECT_EQ(gerador.reajustarTitulos(fatura, primeiro, reais("100,00"), reais("300,00")), Reajuste::semSaldo);
 }
 
+TEST_P(GeradorTitulosTest, AnAmountPaidBelowZeroIsNoPayment) {
+  fatura = cenario.inserirFatura("300,00");
+  cenario.inserirTitulo(fatura, "000001/001", "100,00", "100,00");
+  cenario.inserirTitulo(fatura, "000001/002", "100,00", "-1,00");
+  const int terceiro = cenario.inserirTitulo(fatura, "000001/003", "100,00");
+  gerador.vReajustarTitulosFatura(fatura, dados("300,00"));
+  EXPECT_THAT(cenario.titulos(fatura),
+              ElementsAre("000001/001 31/03/2026 100,00 pago 100,00", "000001/002 31/03/2026 100,50 pago -1,00",
+                          "000001/003 31/03/2026 100,50 pago 0,00"));
+  EXPECT_EQ(gerador.reajustarTitulos(fatura, terceiro, reais("100,50"), reais("90,50")), Reajuste::feito);
+  EXPECT_EQ(cenario.titulos(fatura).at(1), "000001/002 31/03/2026 110,50 pago -1,00");
+  gerador.vPagarTitulosFatura(fatura, reais("50,00"));
+  EXPECT_EQ(cenario.titulos(fatura).at(1), "000001/002 31/03/2026 110,50 pago 50,00");
+}
+
 TEST_P(GeradorTitulosTest, TheSumPaid) {
   fatura = cenario.inserirFatura("300,00");
   EXPECT_EQ(gerador.fGetValorPago(-1), Currency());

@@ -123,6 +123,12 @@ TEST(SerieTitulos, AnEntryOfTheWholeTotalLeavesEmptyTitles) {
               ElementsAre(titulo(3, 1, "90,00", "90,00"), titulo(3, 31, "0,00"), titulo(4, 30, "0,00")));
 }
 
+TEST(SerieTitulos, AnEntryWithoutAValueStillStandsForTheFirstTitle) {
+  DadosSerie dados = serie("90,00", 3, 30);
+  dados.bEntrada = true;
+  EXPECT_THAT(serieTitulos(dados), ElementsAre(titulo(3, 1, "45,00"), titulo(3, 31, "45,00"), titulo(4, 30, "0,00")));
+}
+
 TEST(SerieTitulos, DaysAreCountedThroughLeapYears) {
   DadosSerie dados = serie("20,00", 2, 30);
   dados.dtEmissao = makeDate(2028, 1, 31);
