@@ -71,7 +71,7 @@ void cadastrarFornecedor(Guia& guia) {
   buscar(guia, tela, {{"txtCategoria", "frmLocalizarCategoriasRapido", "Var"}});
   guia.preencher({{"txtEndereco", "Rua Treze de Maio, 230"}});
   buscar(guia, tela, {{.caixa = "txtCidade", .busca = "frmLocalizarCidades", .texto = "Valinhos", .vezes = 1}});
-  guia.preencher({{"txtCEP", "13270030"}, {"txtTelefone", "1932275500"}, {"txtCNPJ", "11444777000161"}});
+  guia.preencher({{"txtCEP", "13270030"}, {"txtTelefone", "1932275500"}, {"txtCNPJ", "33666999000161"}});
   buscar(guia, tela, {{"txtBanco", "frmLocalizarBancos", "Banco do B"}});
   guia.preencher({{"txtAgencia", "1234-5"}, {"txtConta", "98765-0"}});
   guia.fotografar("fornecedor");
@@ -196,7 +196,6 @@ void verTituloDoQuadro(Guia& guia) {
   guia.ir("lstPagarDia");
   guia.teclarLinha("lstPagarDia", 0);
   guia.tecla(Qt::Key_Menu);
-  guia.tecla(Qt::Key_Down);
   guia.tecla(Qt::Key_Return);
   guia.tela("frmCadastroTitulosPagar");
   guia.fotografar("titulo-do-quadro");
@@ -284,7 +283,6 @@ void restaurarEmpresa(Guia& guia, Contexto& programa, const std::string& pasta) 
   guia.tela("frmEmpresaNova");
   guia.ir("lstLista");
   guia.tecla(Qt::Key_Menu);
-  guia.tecla(Qt::Key_Down);
   guia.tecla(Qt::Key_Return);
   guia.tela("frmLocalizarArquivo");
   guia.marcar("chkSubDiretorios");
