@@ -31,18 +31,19 @@ constexpr const char* sNomeFirma = "Comercial Fenvale Ltda";
 struct CidadeDaRegiao {
   const char* sNome;
   const char* sUF;
+  exemplo::Praca praca;
 };
 /// The firm is in the first one, and so are most of its customers.
-constexpr std::array<CidadeDaRegiao, 10> cidades{{{"Londrina", "PR"},
-                                                  {"Cambé", "PR"},
-                                                  {"Ibiporã", "PR"},
-                                                  {"Rolândia", "PR"},
-                                                  {"Arapongas", "PR"},
-                                                  {"Apucarana", "PR"},
-                                                  {"Maringá", "PR"},
-                                                  {"Curitiba", "PR"},
-                                                  {"São Paulo", "SP"},
-                                                  {"Presidente Prudente", "SP"}}};
+constexpr std::array<CidadeDaRegiao, 10> cidades{{{"Londrina", "PR", {86010000, 86089999, 43}},
+                                                  {"Cambé", "PR", {86181000, 86194999, 43}},
+                                                  {"Ibiporã", "PR", {86200000, 86200999, 43}},
+                                                  {"Rolândia", "PR", {86600000, 86604999, 43}},
+                                                  {"Arapongas", "PR", {86700000, 86709999, 43}},
+                                                  {"Apucarana", "PR", {86800000, 86815999, 43}},
+                                                  {"Maringá", "PR", {87010000, 87089999, 44}},
+                                                  {"Curitiba", "PR", {80010000, 82999999, 41}},
+                                                  {"São Paulo", "SP", {1001000, 5899999, 11}},
+                                                  {"Presidente Prudente", "SP", {19010000, 19069999, 18}}}};
 
 constexpr std::array<std::string_view, 6> categorias{"Consumidor final",      "Comércio varejista", "Indústria",
                                                      "Prestador de serviços", "Construtora",        "Órgão público"};
@@ -187,10 +188,10 @@ std::vector<std::int32_t> incluirClientes(Contexto& contexto, const std::vector<
     const std::int32_t lCategoria =
         sorteio.porCento(10) ? sistema.lGetCategoriaPadrao() : sorteio.umDe(chavesCategorias);
     const std::int32_t lVendedor = sorteio.porCento(12) ? sistema.lGetVendedorPadrao() : sorteio.umDe(chavesVendedores);
-    const std::int32_t lCidadeCliente = sorteio.porCento(50) ? chavesCidades.front() : sorteio.umDe(chavesCidades);
-    ValoresSQL valores = valoresCliente(exemplo::cliente(semente, i));
+    const std::size_t onde = sorteio.porCento(50) ? 0 : sorteio.ate(cidades.size());
+    ValoresSQL valores = valoresCliente(exemplo::cliente(semente, i, cidades.at(onde).praca));
     for (const char* sCampo : {"lCidade", "lCidadeEntrega", "lCidadeCobranca"})
-      valores.emplace_back(sCampo, std::to_string(lCidadeCliente));
+      valores.emplace_back(sCampo, std::to_string(chavesCidades.at(onde)));
     valores.emplace_back("lCategoria", std::to_string(lCategoria));
     valores.emplace_back("lVendedor", std::to_string(lVendedor));
     clientes.push_back(lIncluir(contexto, "Clientes", "lCodigoInf", std::move(valores)));
@@ -219,12 +220,13 @@ std::vector<std::int32_t> incluirFornecedores(Contexto& contexto) {
   fornecedores.reserve(quantosFornecedores);
   for (std::uint32_t i = 0; i < quantosFornecedores; ++i) {
     Sorteio sorteio(semente, 21, i);
-    const exemplo::Fornecedor fornecedor = exemplo::fornecedor(semente, i);
+    const std::size_t onde = sorteio.ate(cidades.size());
+    const exemplo::Fornecedor fornecedor = exemplo::fornecedor(semente, i, cidades.at(onde).praca);
     ValoresSQL valores = valoresPessoa(fornecedor);
     valores.insert(valores.end(), {{"sAgencia", sTexto(fornecedor.sAgencia)},
                                    {"sConta", sTexto(fornecedor.sConta)},
                                    {"lCategoria", std::to_string(chavesCategorias.at(categoriaDe(fornecedor)))},
-                                   {"lCidade", std::to_string(sorteio.umDe(chavesCidades))},
+                                   {"lCidade", std::to_string(chavesCidades.at(onde))},
                                    {"lBanco", std::to_string(sorteio.umDe(chavesBancos))}});
     fornecedores.push_back(lIncluir(contexto, "Fornecedores", "lCodigoInf", std::move(valores)));
   }

@@ -171,15 +171,17 @@ std::string sEndereco(Sorteio& sorteio) {
   return s;
 }
 
-std::string sTelefone(Sorteio& sorteio, bool bCelular) {
-  const std::string sDDD = std::to_string(ddds[sorteio.ate(ddds.size())]);
+std::string sTelefone(Sorteio& sorteio, bool bCelular, const Praca& praca) {
+  const int iSorteado = ddds[sorteio.ate(ddds.size())];
+  const std::string sDDD = std::to_string(praca.iDDD != 0 ? praca.iDDD : iSorteado);
   const auto final = sDigitos(static_cast<std::uint64_t>(sorteio.entre(0, 9999)), 4);
   const auto meio = sDigitos(static_cast<std::uint64_t>(sorteio.entre(2000, 9999)), 4);
   return "(" + sDDD + ") " + (bCelular ? "9" : "") + meio + "-" + final;
 }
 
-std::string sCEP(Sorteio& sorteio) {
-  return sMascara("#####-###", sDigitos(static_cast<std::uint64_t>(sorteio.entre(1001000, 99990999)), 8));
+std::string sCEP(Sorteio& sorteio, const Praca& praca) {
+  const int lNumero = sorteio.entre(praca.lMenorCEP, praca.lMaiorCEP);
+  return sMascara("#####-###", sDigitos(static_cast<std::uint64_t>(lNumero), 8));
 }
 
 /// Letters and digits only, as an address on the net bears them.
@@ -205,12 +207,12 @@ std::string sApelidoRede(std::string_view sNome) {
   return left(sApelido, 24);
 }
 
-void preencherPessoa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
+void preencherPessoa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar, const Praca& praca) {
   const bool bMulher = sorteio.porCento(52);
   cliente.sNome = left(sNomeCompleto(sorteio, bMulher), 50);
   cliente.sCPF = sCPFCom(espalhar(lugar, 387420489, 1000000000));
   cliente.sRG = sDigitos(espalhar(lugar, 8300017, 100000000), 8);
-  cliente.sTelefone = sTelefone(sorteio, true);
+  cliente.sTelefone = sTelefone(sorteio, true, praca);
   if (sorteio.porCento(40)) cliente.sPai = left(sNomeCompleto(sorteio, false), 50);
   if (sorteio.porCento(60)) cliente.sMae = left(sNomeCompleto(sorteio, true), 50);
   cliente.dtNascimento = makeDate(1940, 1, 1) + std::chrono::days(sorteio.entre(0, 24000));
@@ -218,13 +220,14 @@ void preencherPessoa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
   cliente.fLimiteCredito = Currency::fromInteger(std::int64_t{sorteio.entre(2, 60)} * 100);
 }
 
-void preencherFirma(Pessoa& firma, Sorteio& sorteio, std::uint32_t lugar, const std::array<Palavras, 24>& dosRamos) {
+void preencherFirma(Pessoa& firma, Sorteio& sorteio, std::uint32_t lugar, const Praca& praca,
+                    const std::array<Palavras, 24>& dosRamos) {
   firma.bEmpresa = true;
   firma.sNome = left(sNomeEmpresa(sorteio, dosRamos), 50);
   firma.sCNPJ = sCNPJCom(espalhar(lugar, 38742049, 100000000));
   firma.sIE = sDigitos(espalhar(lugar, 7900013, 1000000000), 9);
-  firma.sTelefone = sTelefone(sorteio, false);
-  if (sorteio.porCento(30)) firma.sFax = sTelefone(sorteio, false);
+  firma.sTelefone = sTelefone(sorteio, false, praca);
+  if (sorteio.porCento(30)) firma.sFax = sTelefone(sorteio, false, praca);
   firma.sContato = left(sNomeCompleto(sorteio, sorteio.porCento(50)), 50);
 }
 
@@ -234,8 +237,8 @@ void preencherRede(Pessoa& firma, Sorteio& sorteio) {
   if (sorteio.porCento(35)) firma.sHomePage = "www." + sRede + ".example";
 }
 
-void preencherEmpresa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar) {
-  preencherFirma(cliente, sorteio, lugar, ramos);
+void preencherEmpresa(Cliente& cliente, Sorteio& sorteio, std::uint32_t lugar, const Praca& praca) {
+  preencherFirma(cliente, sorteio, lugar, praca, ramos);
   cliente.dtNascimento = makeDate(1960, 1, 1) + std::chrono::days(sorteio.entre(0, 22000));
   preencherRede(cliente, sorteio);
   cliente.fLimiteCredito = Currency::fromInteger(std::int64_t{sorteio.entre(2, 100)} * 1000);
@@ -262,45 +265,45 @@ std::string sNomePessoa(std::uint64_t semente, std::uint32_t lugar) {
   return left(sNomeCompleto(sorteio, sorteio.porCento(52)), 50);
 }
 
-Cliente cliente(std::uint64_t semente, std::uint32_t lugar) {
+Cliente cliente(std::uint64_t semente, std::uint32_t lugar, const Praca& praca) {
   Sorteio sorteio(semente, 1, lugar);
   Cliente novo;
   if (sorteio.porCento(45)) {
-    preencherEmpresa(novo, sorteio, lugar);
+    preencherEmpresa(novo, sorteio, lugar, praca);
   } else {
-    preencherPessoa(novo, sorteio, lugar);
+    preencherPessoa(novo, sorteio, lugar, praca);
   }
   novo.sEndereco = sEndereco(sorteio);
   novo.sBairro = sorteio.um(bairros);
-  novo.sCEP = sCEP(sorteio);
+  novo.sCEP = sCEP(sorteio, praca);
   if (sorteio.porCento(8)) novo.txtObs = sorteio.um(observacoes);
   if (sorteio.porCento(12)) {
     novo.sEnderecoEntrega = sEndereco(sorteio);
     novo.sBairroEntrega = sorteio.um(bairros);
-    novo.sCEPEntrega = sCEP(sorteio);
+    novo.sCEPEntrega = sCEP(sorteio, praca);
   }
   if (sorteio.porCento(6)) {
     novo.sEnderecoCobranca = sEndereco(sorteio);
     novo.sBairroCobranca = sorteio.um(bairros);
-    novo.sCEPCobranca = sCEP(sorteio);
+    novo.sCEPCobranca = sCEP(sorteio, praca);
   }
   return novo;
 }
 
-Fornecedor fornecedor(std::uint64_t semente, std::uint32_t lugar) {
+Fornecedor fornecedor(std::uint64_t semente, std::uint32_t lugar, const Praca& praca) {
   constexpr std::uint32_t antesDosFornecedores = 5'000'000;  // their numbers lie behind those of the customers
   Sorteio sorteio(semente, 3, lugar);
   Fornecedor novo;
   if (sorteio.porCento(90)) {
-    preencherFirma(novo, sorteio, antesDosFornecedores + lugar, ramosFornecedores);
+    preencherFirma(novo, sorteio, antesDosFornecedores + lugar, praca, ramosFornecedores);
     preencherRede(novo, sorteio);
   } else {
     novo.sNome = left(sNomeCompleto(sorteio, sorteio.porCento(30)), 50);
     novo.sCPF = sCPFCom(espalhar(antesDosFornecedores + lugar, 387420489, 1000000000));
-    novo.sTelefone = sTelefone(sorteio, true);
+    novo.sTelefone = sTelefone(sorteio, true, praca);
   }
   novo.sEndereco = sEndereco(sorteio);
-  novo.sCEP = sCEP(sorteio);
+  novo.sCEP = sCEP(sorteio, praca);
   novo.sAgencia = sMascara("####-#", sDigitos(static_cast<std::uint64_t>(sorteio.entre(10, 99999)), 5));
   novo.sConta = sMascara("###.###-#", sDigitos(static_cast<std::uint64_t>(sorteio.entre(10000, 9999999)), 7));
   if (sorteio.porCento(25)) novo.txtObs = sorteio.um(observacoesFornecedor);

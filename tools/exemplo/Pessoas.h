@@ -36,9 +36,17 @@ struct Fornecedor : Pessoa {
   std::string sAgencia, sConta;
 };
 
-// The same for the same seed and place; no two of them share a CPF, RG, CNPJ or IE (up to 5 million places each).
-Cliente cliente(std::uint64_t semente, std::uint32_t lugar);
-Fornecedor fornecedor(std::uint64_t semente, std::uint32_t lugar);
+/// Where somebody lives, as post codes and telephone numbers tell it.
+struct Praca {
+  int lMenorCEP, lMaiorCEP;
+  int iDDD;  ///< 0: any
+};
+inline constexpr Praca qualquerPraca{1001000, 99990999, 0};
+
+// The same for the same seed and place; no two of them share a CPF, RG, CNPJ or IE (up to 5 million places each). Who
+// moves keeps all but post codes and area codes.
+Cliente cliente(std::uint64_t semente, std::uint32_t lugar, const Praca& praca = qualquerPraca);
+Fornecedor fornecedor(std::uint64_t semente, std::uint32_t lugar, const Praca& praca = qualquerPraca);
 
 /// First name and surnames, at most 50 characters.
 std::string sNomePessoa(std::uint64_t semente, std::uint32_t lugar);

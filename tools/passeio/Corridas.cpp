@@ -109,7 +109,7 @@ void cadastrarCliente(Guia& guia) {
   guia.conteudo("txtCidade", "Santa Bárbara d'Oeste");
   guia.preencher({{"txtCEP", "13450000"}, {"txtTelefone", "1934551020"}, {"txtContato", "João Batista"}});
   buscar(guia, tela, {{"txtVendedor", "frmLocalizarVendedoresRapido", "Mar"}});
-  guia.preencher({{"txtCNPJ", "11444777000161"}, {"txtEMail", "contato@acougue.example"}});
+  guia.preencher({{"txtCNPJ", "22555888000161"}, {"txtEMail", "contato@acougue.example"}});
   guia.fotografar("cliente");
   guia.tecla(Qt::Key_F3);
   guia.caixa(informacao, concluida);

@@ -116,6 +116,30 @@ TEST_F(Demonstracao, SuppliersHaveABankAndFitTheirBoxes) {
   EXPECT_GT(aberto.contar("Fornecedores", "MID(sNome, 1, 14) = 'Transportadora'"), 0);
 }
 
+TEST_F(Demonstracao, PostCodesAndTelephonesAreThoseOfTheCity) {
+  struct Lugar {
+    const char* sCidade;
+    std::string sCEP, sDDD;
+  };
+  const std::vector<Lugar> lugares{{"Londrina", "860", "(43)"},  {"Cambé", "861", "(43)"},
+                                   {"Ibiporã", "862", "(43)"},   {"Rolândia", "866", "(43)"},
+                                   {"Arapongas", "867", "(43)"}, {"Apucarana", "868", "(43)"},
+                                   {"Maringá", "870", "(44)"},   {"Curitiba", "8", "(41)"},
+                                   {"São Paulo", "0", "(11)"},   {"Presidente Prudente", "190", "(18)"}};
+  ProgramaNaPasta aberto(pasta_->caminho());
+  for (const auto& [sTabela, todos] :
+       {std::pair(std::string("Clientes"), 120), std::pair(std::string("Fornecedores"), 40)}) {
+    int certos = 0;
+    for (const Lugar& lugar : lugares)
+      certos += std::stoi(aberto.valor("SELECT COUNT(" + sTabela + ".lCodigo) AS N FROM " + sTabela +
+                                       " INNER JOIN Cidades ON " + sTabela +
+                                       ".lCidade = Cidades.lCodigo WHERE Cidades.sNome = '" + lugar.sCidade +
+                                       "' AND MID(sCEP, 1, " + std::to_string(lugar.sCEP.size()) + ") = '" +
+                                       lugar.sCEP + "' AND MID(sTelefone, 1, 4) = '" + lugar.sDDD + "'"));
+    EXPECT_EQ(certos, todos) << sTabela;
+  }
+}
+
 using EscolhaDeLado = const Lado& (*)();
 
 /// The year of sales and the year of purchases.

@@ -50,6 +50,31 @@ TEST(Pessoas, SuppliersTooAreRightByTheProgramsChecks) {
   EXPECT_EQ(fornecedor(5, 12).sConta, fornecedor(5, 12).sConta);
 }
 
+TEST(Pessoas, WhoMovesChangesPostCodesAndAreaCodesAndNothingElse) {
+  constexpr Praca londrina{86010000, 86089999, 43};
+  int entregas = 0;
+  for (std::uint32_t i = 0; i < quantos; ++i) {
+    const Cliente antes = cliente(7, i);
+    const Cliente um = cliente(7, i, londrina);
+    for (const std::string& sCEP : {um.sCEP, um.sCEPEntrega, um.sCEPCobranca}) {
+      if (sCEP.empty()) continue;
+      EXPECT_GE(sCEP, "86010-000");
+      EXPECT_LE(sCEP, "86089-999");
+    }
+    entregas += !um.sCEPEntrega.empty();
+    EXPECT_EQ(um.sTelefone, "(43)" + antes.sTelefone.substr(4));
+    if (!um.sFax.empty()) {
+      EXPECT_TRUE(um.sFax.starts_with("(43) ")) << um.sFax;
+    }
+    EXPECT_EQ(um.sNome + um.sEndereco + um.sBairro + um.sContato + um.sEmail + um.txtObs,
+              antes.sNome + antes.sEndereco + antes.sBairro + antes.sContato + antes.sEmail + antes.txtObs);
+    const Fornecedor outro = fornecedor(7, i, londrina);
+    EXPECT_TRUE(outro.sCEP.starts_with("860")) << outro.sCEP;
+    EXPECT_EQ(outro.sConta, fornecedor(7, i).sConta);
+  }
+  EXPECT_GT(entregas, 0);
+}
+
 TEST(Pessoas, NobodySharesANumberWithAnother) {
   std::set<std::string> numeros;
   std::size_t dados = 0;
