@@ -26,7 +26,7 @@ frmLocalizarArquivo::frmLocalizarArquivo(Contexto& contexto)
                        "Consulta avançada - Selecionando esta opção, o sistema realizará uma busca avançada pelo local "
                        "informado, varrendo os sub-diretórios à procura de arquivos que contenham possíveis "
                        "importações"),
-      lstLista(*this, "lstLista", {{"Arquivos", 7500, Align::left}}),
+      lstLista(*this, "lstLista", {{"Arquivos", 5600, Align::left}}),
       funcoes_(contexto) {
   setCaption("Localizar arquivo");
   setTitle("Localizar arquivo");
