@@ -47,6 +47,13 @@ TEST_F(QuadroListas, ColumnsStandInTheOrderOfTheirSide) {
                             "Valor da fatura", "Valor do título", "Nota fiscal", "Observação", "Nº da fatura"));
 }
 
+TEST_F(QuadroListas, EachListHasTheCodeThatTellsItsSide) {
+  std::vector<std::pair<std::string, int>> codigosDasListas;
+  for (const ListaDoQuadro& lista : listasDoQuadro()) codigosDasListas.emplace_back(lista.sNome, lista.iCodigo);
+  EXPECT_THAT(codigosDasListas, ElementsAre(std::pair{"PagarDia", -1}, std::pair{"ReceberDia", 1},
+                                            std::pair{"PagarVencidas", 0}, std::pair{"ReceberVencidas", 2}));
+}
+
 TEST_F(QuadroListas, ARowHoldsTheTitleAndItsKeyAfterABlank) {
   for (int i = 0; i < 2; ++i) pagar("antes" + std::to_string(i), amanha);
   pagar("000001/001", hoje, "1234,50");
