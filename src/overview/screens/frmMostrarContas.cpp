@@ -52,6 +52,7 @@ frmMostrarContas::frmMostrarContas(Contexto& contexto)
   setTitle("Quadro geral de contas");
   std::vector<LayoutNode> partes;
   for (Quadro& quadro : quadros) {
+    quadro.lst.setFixedPitch();
     quadro.lst.onMouseDown = [this](MouseButton botao) { iBotaoMouse = static_cast<std::int16_t>(botao); };
     quadro.lst.onItemClick = [this, &quadro](const std::shared_ptr<ListItem>& item) { vClicarItem(quadro, item); };
     quadro.lst.onColumnClick = [this, &quadro](std::size_t coluna) { funcoes_.vOrdenarListView(quadro.lst, coluna); };

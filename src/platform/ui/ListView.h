@@ -70,6 +70,9 @@ class ListView final : public Control {
   /// 1-based, as the rules count. Error 35600 outside.
   float columnWidth(std::size_t column) const;
   void setColumnWidth(std::size_t column, float twips);
+  /// Rows in letters of one width, so that texts below each other compare place by place.
+  void setFixedPitch() { fixedPitch_ = true; }
+  bool fixedPitch() const { return fixedPitch_; }
   bool hasCheckBoxes() const { return checks_ == CheckBoxes::perRow; }
 
   std::shared_ptr<ListItem> addItem(std::string key, std::string text);
@@ -113,6 +116,7 @@ class ListView final : public Control {
   friend class ListItem;
   std::vector<ListColumn> columns_;
   CheckBoxes checks_;
+  bool fixedPitch_ = false;
   std::vector<std::shared_ptr<ListItem>> items_;
   ListItemReference selected_;
   int sortColumn_ = -1;

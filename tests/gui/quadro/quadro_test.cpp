@@ -105,6 +105,34 @@ TEST_F(QuadroEmJanela, NothingIsCutHiddenOrOutOfReach) {
   tela.unload();
 }
 
+/// Where the ink of a row's first cell ends.
+int fimDaTinta(const QTreeView& view, int linha) {
+  const QImage foto = view.viewport()->grab().toImage();
+  const QRect celula = view.visualRect(view.model()->index(linha, 0));
+  const auto fundo = foto.pixel(celula.topLeft());
+  int fim = 0;
+  for (int x = celula.left(); x <= celula.right(); ++x)
+    for (int y = celula.top(); y <= celula.bottom(); ++y)
+      if (foto.pixel(x, y) != fundo) fim = x;
+  return fim;
+}
+
+TEST_F(QuadroEmJanela, TheRowsAreInLettersOfOneWidth) {
+  frmMostrarContas& tela = abrirTodas();
+  for (frmMostrarContas::Quadro& quadro : tela.quadros) {
+    quadro.lst.setFocus();
+    quadro.lst.clear();
+    for (const char* codigo : {"iiiiiiii", "iiiiiiii", "MMMMMMMM", "MMMMMMMM"})
+      quadro.lst.addItem("00000 1", std::vector<std::string>{codigo});
+    for (const std::size_t marcada : {1, 3}) quadro.lst.item(marcada)->setMark(true, 192);
+    host.doEvents();
+    const auto& view = dynamic_cast<QTreeView&>(*widgetOf(quadro.lst));
+    EXPECT_GT(fimDaTinta(view, 2), 40);
+    for (const int linha : {0, 1, 3}) EXPECT_NEAR(fimDaTinta(view, linha), fimDaTinta(view, 2), 5) << linha;
+  }
+  tela.unload();
+}
+
 TEST_F(QuadroEmJanela, ItComesUpOnTheFirstListThatIsOnReadyForTheKeyboard) {
   frmMostrarContas& tela = abrirSomente("bitMostrarContasVencidasReceber = -1");
   EXPECT_THAT(visiveis(tela), ElementsAre("Contas vencidas a receber"));

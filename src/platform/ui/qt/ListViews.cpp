@@ -47,8 +47,8 @@ float twipsOf(int pixels) { return static_cast<float>(pixels * twipsPerPixel); }
 /// Draws one cell: the row's mark (bold, colour), the tick, the text.
 class RowDelegate final : public QStyledItemDelegate {
  public:
-  RowDelegate(const QtHost& host, const ListRows& rows, QTreeView& view)
-      : QStyledItemDelegate(&view), view_(view), host_(host), rows_(rows) {}
+  RowDelegate(const QtHost& host, const ListRows& rows, bool fixedPitch, QTreeView& view)
+      : QStyledItemDelegate(&view), view_(view), host_(host), rows_(rows), fixedPitch_(fixedPitch) {}
 
   void paint(QPainter* painter, const QStyleOptionViewItem& option, const QModelIndex& index) const override {
     const ListItem* const item = rows_.item(index.row());
@@ -65,7 +65,7 @@ class RowDelegate final : public QStyledItemDelegate {
                tick.toInt() == Qt::Checked, enabled, false, theme);
       place.setLeft(option.rect.x() + tickWidth + 2);
     }
-    painter->setFont(item->bold() ? theme.strongFont() : theme.baseFont());
+    painter->setFont(fontOf(*item));
     painter->setPen(enabled ? theme.translated(item->colour()) : theme.tokens().disabledText);
     drawCellText(*painter, place, rows_.text(index.row(), index.column()), rows_.alignment(index.column()));
     painter->restore();
@@ -76,12 +76,17 @@ class RowDelegate final : public QStyledItemDelegate {
   bool cut(const QModelIndex& index, const QRect& cell) const {
     const ListItem* const item = rows_.item(index.row());
     if (item == nullptr) return false;
-    const QFont font = item->bold() ? host_.theme().strongFont() : host_.theme().baseFont();
     const int tick = index.data(Qt::CheckStateRole).isValid() ? tickWidth : 0;
-    return cellTextWidth(font, rows_.text(index.row(), index.column())) > roomFor(index, cell) - 2 * cellMargin - tick;
+    const double width = cellTextWidth(fontOf(*item), rows_.text(index.row(), index.column()));
+    return width > roomFor(index, cell) - 2 * cellMargin - tick;
   }
 
  private:
+  const QFont& fontOf(const ListItem& item) const {
+    const Theme& theme = host_.theme();
+    if (fixedPitch_) return item.bold() ? theme.strongFixedFont() : theme.fixedFont();
+    return item.bold() ? theme.strongFont() : theme.baseFont();
+  }
   /// A text in the last column runs on into what is left of the list.
   int roomFor(const QModelIndex& index, const QRect& cell) const {
     const bool left = (rows_.alignment(index.column()) & Qt::AlignLeft) != 0;
@@ -97,6 +102,7 @@ class RowDelegate final : public QStyledItemDelegate {
   const QTreeView& view_;
   const QtHost& host_;
   const ListRows& rows_;
+  bool fixedPitch_;
 };
 
 /// Headings with the mark of the sorted column.
@@ -266,7 +272,7 @@ class ListBinding final : public BindingOf<ListView, RowsView> {
     later_->setInterval(0);
     connect(later_, &QTimer::timeout, this, [this] { showRows(); });
     view.setModel(rows_);
-    view.setItemDelegate(new RowDelegate(host, *rows_, view));
+    view.setItemDelegate(new RowDelegate(host, *rows_, control.fixedPitch(), view));
     view.ticks = control.hasCheckBoxes();
     listen();
     refreshAll();

@@ -211,6 +211,14 @@ QFont interfaceFont(double points, QFont::Weight weight) {
   return font;
 }
 
+QFont fixedPitchFont(double points, QFont::Weight weight) {
+  const QString family = QStringLiteral("Lucida Console");
+  QFont font = QFontDatabase::hasFamily(family) ? QFont(family) : QFontDatabase::systemFont(QFontDatabase::FixedFont);
+  font.setPointSizeF(points);
+  font.setWeight(weight);
+  return font;
+}
+
 }  // namespace
 
 Theme::Theme(Scheme scheme)
@@ -220,7 +228,9 @@ Theme::Theme(Scheme scheme)
       labelFont_(interfaceFont(9, QFont::Normal)),
       titleFont_(interfaceFont(15, QFont::DemiBold)),
       strongFont_(interfaceFont(10, QFont::DemiBold)),
-      displayFont_(interfaceFont(26, QFont::DemiBold)) {}
+      displayFont_(interfaceFont(26, QFont::DemiBold)),
+      fixedFont_(fixedPitchFont(9, QFont::Normal)),
+      strongFixedFont_(fixedPitchFont(9, QFont::Bold)) {}
 
 QPalette Theme::palette() const {
   const Tokens& t = tokens_;

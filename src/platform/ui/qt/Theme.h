@@ -53,6 +53,9 @@ class Theme {
   const QFont& titleFont() const { return titleFont_; }
   const QFont& strongFont() const { return strongFont_; }
   const QFont& displayFont() const { return displayFont_; }
+  /// All letters of one width.
+  const QFont& fixedFont() const { return fixedFont_; }
+  const QFont& strongFixedFont() const { return strongFixedFont_; }
 
   /// A colour of the rules (red in the low byte) as it reads on this scheme: 0 is the text's, 192 the dark red.
   QColor translated(std::int32_t colour) const;
@@ -61,7 +64,7 @@ class Theme {
   Scheme scheme_;
   Tokens tokens_;
   // Made once: asking the system which families it has takes longer than painting a cell.
-  QFont baseFont_, labelFont_, titleFont_, strongFont_, displayFont_;
+  QFont baseFont_, labelFont_, titleFont_, strongFont_, displayFont_, fixedFont_, strongFixedFont_;
 };
 
 /// The scheme of the system's own colours; ask before a palette of the program's was set.
