@@ -20,6 +20,7 @@
 #include "store/screens/frmEmpresaNova.h"
 #include "store/services/Empresas.h"
 #include "support/Caixas.h"
+#include "support/Espia.h"
 #include "support/Rodada.h"
 
 namespace fenvale {
@@ -31,22 +32,6 @@ using testing::HasSubstr;
 using testing::IsEmpty;
 
 constexpr const char* sLegendaFechada = "Gestor Fenvale - Versão ZENIT";
-
-/// Sees every change of a control.
-class Espia final : public ControlView {
- public:
-  Espia(Control& control, std::function<void()> ver) : control_(control), ver_(std::move(ver)) {
-    control.attach(*this);
-  }
-  ~Espia() override { control_.detach(*this); }
-  Espia(const Espia&) = delete;
-  Espia& operator=(const Espia&) = delete;
-  void controlChanged(Aspect) override { ver_(); }
-
- private:
-  Control& control_;
-  std::function<void()> ver_;
-};
 
 class Backup : public TelasDeEmpresas {
  protected:

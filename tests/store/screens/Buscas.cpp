@@ -11,6 +11,7 @@
 #include "store/screens/frmMensagem.h"
 #include "store/services/Sistema.h"
 #include "support/Caixas.h"
+#include "support/Espia.h"
 #include "support/TelasDoPrograma.h"
 
 namespace fenvale {
@@ -191,6 +192,38 @@ TEST_F(Arquivos, TheAdvancedSearchWalksTheFoldersBelowParentsFirst) {
                             "00005 " + lugar.arquivo("sub/fundo/d.MDB")));
   });
   EXPECT_TRUE(programa.pasta().existe("subDir.txt")) << "the work file stays";
+}
+
+TEST_F(Arquivos, TheBarsFollowTheFilesAndTheFoldersUnderTheHourglassWithTheWindowAlive) {
+  buscar("*.MDB", [this](frmLocalizarArquivo& tela) {
+    EXPECT_EQ("Arquivos", tela.lstLista.columns().front().heading);
+    EXPECT_EQ("Exibir item como uma imagem", tela.mnuPopUp.item("mnuExibirImagem").caption);
+    EXPECT_EQ(
+        "Consulta avançada - Selecionando esta opção, o sistema realizará uma busca avançada pelo local informado, "
+        "varrendo os sub-diretórios à procura de arquivos que contenham possíveis importações",
+        tela.chkSubDiretorios.caption());
+    std::vector<std::string> passos;
+    std::vector<int> eventos;
+    const Espia arquivos(tela.pbBarra1, [&] {
+      EXPECT_EQ(Pointer::hourglass, host.pointer());
+      if (tela.pbBarra1.value() == 0) return;
+      passos.push_back(std::to_string(tela.pbBarra1.value()) + " de " + std::to_string(tela.pbBarra1.maximum()));
+      eventos.push_back(host.eventsLetThrough());
+    });
+    const Espia pastas(tela.pbBarra2, [&] {
+      if (tela.pbBarra2.value() > 0) passos.push_back("pasta " + std::to_string(tela.pbBarra2.value()));
+    });
+    tela.userKey(Key::f6);
+    EXPECT_THAT(passos, ElementsAre("1 de 2", "2 de 2"));
+    EXPECT_GT(eventos.at(1), eventos.at(0));
+    passos.clear();
+    tela.chkSubDiretorios.userClick();
+    tela.userKey(Key::f6);
+    EXPECT_THAT(passos, ElementsAre("1 de 2", "2 de 2", "pasta 1", "1 de 1", "pasta 2", "1 de 1", "pasta 3", "1 de 1",
+                                    "pasta 4"));
+    EXPECT_EQ(4, tela.pbBarra2.maximum());
+    EXPECT_EQ(0, tela.pbBarra1.value() + tela.pbBarra2.value());
+  });
 }
 
 TEST_F(Arquivos, SeveralPatternsAreJoined) {
