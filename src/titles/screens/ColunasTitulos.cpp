@@ -15,15 +15,17 @@ std::vector<ColunaLista> chaveENome(const std::string& sNomeNaFrase, const std::
 
 }  // namespace
 
-std::vector<ColunaLista> colunasPessoa(const Lado& lado) {
-  return chaveENome(lado.sPessoaMinuscula, lado.sChavePessoa, lado.sPessoa, lado.sPessoa, 3000);
+std::vector<ColunaLista> colunasPessoa(const Lado& lado, float fLargura) {
+  return chaveENome(lado.sPessoaMinuscula, lado.sChavePessoa, lado.sPessoa, lado.sPessoa, fLargura);
 }
 
-std::vector<ColunaLista> colunasPortador() { return chaveENome("portador", "lPortador", "Portador", "Portador", 1800); }
+std::vector<ColunaLista> colunasPortador(float fLargura) {
+  return chaveENome("portador", "lPortador", "Portador", "Portador", fLargura);
+}
 
-std::vector<ColunaLista> colunasVendedor(const Lado& lado) {
+std::vector<ColunaLista> colunasVendedor(const Lado& lado, float fLargura) {
   if (!lado.bVendedor) return {};
-  return chaveENome("vendedor", "lVendedor", "Vendedor", "Vendedores", 1900);
+  return chaveENome("vendedor", "lVendedor", "Vendedor", "Vendedores", fLargura);
 }
 
 std::vector<ColunaLista> colunasCentroCusto() {
@@ -31,18 +33,18 @@ std::vector<ColunaLista> colunasCentroCusto() {
 }
 
 std::vector<ColunaLista> colunasTitulos(const Lado& lado) {
-  std::vector<ColunaLista> colunas{{"Código", 1700, Align::left, "sCodigoInf"}};
+  std::vector<ColunaLista> colunas{{"Código", 1500, Align::left, "sCodigoInf"}};
   if (lado.bFilial) colunas.push_back({"Filial", 800, Align::left, "sFilial"});
-  vAcrescentar(colunas, {{"Emissão", 1560, Align::centre, "Emissao"},
-                         {"Vencimento", 1560, Align::centre, "Vencimento"},
+  vAcrescentar(colunas, {{"Emissão", 1440, Align::centre, "Emissao"},
+                         {"Vencimento", 1440, Align::centre, "Vencimento"},
                          {"Pago", 800, Align::centre, "Pago"}});
-  vAcrescentar(colunas, colunasPessoa(lado));
-  vAcrescentar(colunas, colunasPortador());
-  vAcrescentar(colunas, colunasVendedor(lado));
-  vAcrescentar(colunas, {{"Valor da fatura", 1750, Align::right, "ValorFatura"},
-                         {"Valor do título", 1750, Align::right, "ValorTitulo"}});
+  vAcrescentar(colunas, colunasPessoa(lado, lado.bVendedor ? 2500 : 3550));
+  vAcrescentar(colunas, colunasPortador(1300));
+  vAcrescentar(colunas, colunasVendedor(lado, 1850));
+  vAcrescentar(colunas, {{"Valor da fatura", 1700, Align::right, "ValorFatura"},
+                         {"Valor do título", 1700, Align::right, "ValorTitulo"}});
   vAcrescentar(colunas, colunasCentroCusto());
-  vAcrescentar(colunas, {{"Pagamento", 1560, Align::centre, "Pagamento"},
+  vAcrescentar(colunas, {{"Pagamento", 1440, Align::centre, "Pagamento"},
                          {"Valor pago", 1500, Align::right, "ValorPago"},
                          {"Juros cobrado", 1650, Align::right, "Juros"},
                          {"Desconto", 1400, Align::right, "Desconto"},

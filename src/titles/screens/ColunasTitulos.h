@@ -11,14 +11,15 @@ namespace fenvale {
 
 struct Lado;
 
-// Of customer or supplier and the like a hidden column with the key and a column with the name.
-std::vector<ColunaLista> colunasPessoa(const Lado& lado);
-std::vector<ColunaLista> colunasPortador();
+// Of customer or supplier and the like a hidden column with the key and a column with the name, that wide.
+std::vector<ColunaLista> colunasPessoa(const Lado& lado, float fLargura = 3000);
+std::vector<ColunaLista> colunasPortador(float fLargura = 1800);
 /// None on a side without salespeople.
-std::vector<ColunaLista> colunasVendedor(const Lado& lado);
+std::vector<ColunaLista> colunasVendedor(const Lado& lado, float fLargura = 1900);
 std::vector<ColunaLista> colunasCentroCusto();
 
-/// The title lists: of the register, and of the search for settlement, which hands its rows to the register.
+/// The title lists: of the register, and of the search for settlement, which hands its rows to the register. On a
+/// screen of the designed width everything up to the title's value is in sight.
 std::vector<ColunaLista> colunasTitulos(const Lado& lado);
 
 /// Columns are listed in the order in which they stand, group after group.

@@ -184,6 +184,18 @@ TEST_P(TitulosEmJanelas, ADoubleClickInTheSearchBringsTheTitleAndTwoSlowClicksDo
   titulos.unload();
 }
 
+TEST_P(TitulosEmJanelas, TheValueOfATitleIsInSightWithoutScrolling) {
+  for (const std::string& nome : {lado.titulos.sNome, lado.titulos.sBuscaBaixa}) {
+    Screen& tela = abrir(nome);
+    auto& lista = dynamic_cast<ListView&>(*tela.control("lstLista"));
+    const auto& view = dynamic_cast<const QTreeView&>(*widgetOf(lista));
+    int iValor = 0;
+    while (lista.columns().at(static_cast<std::size_t>(iValor)).heading != "Valor do título") ++iValor;
+    EXPECT_LE(view.columnViewportPosition(iValor) + view.columnWidth(iValor), view.viewport()->width()) << nome;
+    tela.unload();
+  }
+}
+
 INSTANTIATE_TEST_SUITE_P(Lados, TitulosEmJanelas, testing::Values(&ladoReceber, &ladoPagar),
                          [](const auto& caso) { return caso.param().sTitulos; });
 

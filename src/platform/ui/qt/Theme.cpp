@@ -143,7 +143,7 @@ QHeaderView::section {
   background: transparent; color: @muted; border: 0; border-right: 1px solid @line; border-bottom: 1px solid @line;
   padding: 0 6px 0 7px; min-height: 28px; }
 QHeaderView::section:hover { color: @text; background: @hover; }
-QHeaderView::section:last { border-right-color: transparent; }
+QHeaderView::section:last, QHeaderView::section:only-one { border-right-color: transparent; }
 
 QScrollBar:vertical { background: transparent; width: 12px; margin: 0; border: 0; }
 QScrollBar:horizontal { background: transparent; height: 12px; margin: 0; border: 0; }
