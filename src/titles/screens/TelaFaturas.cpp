@@ -184,7 +184,11 @@ void TelaFaturas::vGravarFatura() {
 
 void TelaFaturas::vGravarTitulos() {
   if (txtTotal.value() <= gerador_.fGetValorPago(lCodigo)) return;
-  if (titulos_.btGetOpcaoReparcelamento() != 0) {
+  const bool bReajustar = titulos_.btGetOpcaoReparcelamento() != 0;
+  // A series has one instalment at least; re-working one that is there asks for none.
+  if (readInt32(txtNumeroParcelas.text()) == 0 && (!bReajustar || gerador_.bSemTitulos(lCodigo)))
+    txtNumeroParcelas.setText("1");
+  if (bReajustar) {
     gerador_.vReajustarTitulosFatura(lCodigo, serie());
   } else {
     gerador_.vCriarTitulosFatura(lCodigo, serie());
@@ -192,7 +196,6 @@ void TelaFaturas::vGravarTitulos() {
 }
 
 DadosSerie TelaFaturas::serie() {
-  if (readInt32(txtNumeroParcelas.text()) == 0) txtNumeroParcelas.setText("1");
   return {.dtEmissao = dtEmissao.value(),
           .fTotal = txtTotal.value(),
           .fEntrada = txtEntrada.value(),

@@ -70,9 +70,12 @@ void GeradorTitulos::vCriarTitulosFatura(std::int32_t& lFatura, const DadosSerie
     vInserir(lFatura, sCodigoTitulo(lFatura, ++iParcela), titulo, titulo.dtVencimento);
 }
 
+bool GeradorTitulos::bSemTitulos(std::int32_t lFatura) {
+  return lFatura == -1 || titulos_.iGetNumeroTitulosFatura(lado_.sTitulos, lado_.sLigacao, lFatura, 0) == 0;
+}
+
 void GeradorTitulos::vReajustarTitulosFatura(std::int32_t& lFatura, const DadosSerie& dados) {
-  if (lFatura == -1 || titulos_.iGetNumeroTitulosFatura(lado_.sTitulos, lado_.sLigacao, lFatura, 0) == 0)
-    return vCriarTitulosFatura(lFatura, dados);
+  if (bSemTitulos(lFatura)) return vCriarTitulosFatura(lFatura, dados);
 
   const Currency fRestante =
       titulos_.fGetValorRestanteRecPagFatura(lado_.sTitulos, lado_.sLigacao, lFatura, dados.fTotal);

@@ -43,6 +43,8 @@ class GeradorTitulos {
   /// The other open titles take the difference between the old value of `lTitulo` and the new one.
   Reajuste reajustarTitulos(std::int32_t lFatura, std::int32_t lTitulo, Currency fAntigo, Currency fNovo);
 
+  /// Whether re-working the invoice makes its series, as it has no titles: one that was just inserted (-1) has none.
+  bool bSemTitulos(std::int32_t lFatura);
   /// The sum of what was paid on the invoice's titles.
   Currency fGetValorPago(std::int32_t lFatura);
   /// The highest key of the invoices: that of the one just inserted, as long as nobody else inserts.

@@ -50,6 +50,18 @@ TEST_P(FaturasTitulosTest, NoInstalmentsCountAsOne) {
   EXPECT_THAT(cenario.titulos(1), ElementsAre("000001/001 31/03/2026 100,00 pago 0,00"));
 }
 
+TEST_P(FaturasTitulosTest, NoInstalmentsAreMendedWhereASeriesIsMadeAndNowhereElse) {
+  const int chave = criarFatura("100,00", umaVez);
+  cenario.executar("UPDATE CondicoesPagamento SET iNumeroParcelas = 0 WHERE lCodigo = 3");
+  for (const auto& [opcao, esperado] : {std::pair(1, "0"), std::pair(0, "1")}) {
+    cenario.opcaoReparcelamento(opcao);
+    abrirFatura(chave).txtTotal.userType("150,00");
+    host.then([&, texto = std::string(esperado)] { EXPECT_EQ(faturas().txtNumeroParcelas.text(), texto); });
+    salvarFatura();
+    EXPECT_THAT(cenario.titulos(chave), ElementsAre("000001/001 31/03/2026 150,00 pago 0,00"));
+  }
+}
+
 TEST_P(FaturasTitulosTest, APaidOffInvoiceSavedUnchangedTouchesNothing) {
   const int chave = criarFatura("100,00", duasVezes);
   pagarInteiro("000001/001", "50,00");
