@@ -227,6 +227,9 @@ class Nova : public TelasDeEmpresas {
     t.txtNomeArquivo.userType(nome);
     t.txtCaminho.userType(programa.pasta().caminho());
   }
+
+  const MessageBox jaReferida = pergunta(
+      "Já existe uma referência para a empresa loja.MDB.\r\nDeseja remover essa referência e criar um novo arquivo?");
 };
 
 TEST_F(Nova, MakesAnEmptyFileAndKnowsIt) {
@@ -262,9 +265,7 @@ TEST_F(Nova, AnOldReferenceIsRemovedWhenTheUserWantsIt) {
   referencia("loja.MDB", pasta());
   tela([this](frmEmpresaNova& t) {
     preencher(t, "loja");
-    host.expectBox(pergunta("Já existe uma referência para a empresa loja.MDB.\r\nDeseja remover essa referência e "
-                            "criar um novo arquivo?"),
-                   BoxAnswer::yes);
+    host.expectBox(jaReferida, BoxAnswer::yes);
     host.expectBox(informacao("Empresa criada com sucesso."));
     t.userKey(Key::f3);
   });
@@ -278,9 +279,7 @@ TEST_F(Nova, AllReferencesOfThatNameAreRemovedWhateverTheirFolder) {
   referencia("filial.MDB", pasta());
   tela([this](frmEmpresaNova& t) {
     preencher(t, "loja");
-    host.expectBox(pergunta("Já existe uma referência para a empresa loja.MDB.\r\nDeseja remover essa referência e "
-                            "criar um novo arquivo?"),
-                   BoxAnswer::yes);
+    host.expectBox(jaReferida, BoxAnswer::yes);
     host.expectBox(informacao("Empresa criada com sucesso."));
     t.userKey(Key::f3);
   });
@@ -291,9 +290,7 @@ TEST_F(Nova, AnOldReferenceThatStaysAsksForAnotherName) {
   referencia("loja.MDB", pasta());
   tela([this](frmEmpresaNova& t) {
     preencher(t, "loja");
-    host.expectBox(pergunta("Já existe uma referência para a empresa loja.MDB.\r\nDeseja remover essa referência e "
-                            "criar um novo arquivo?"),
-                   BoxAnswer::no);
+    host.expectBox(jaReferida, BoxAnswer::no);
     host.expectBox(aviso("Informe outro nome para a empresa."));
     t.userKey(Key::f3);
   });
