@@ -27,6 +27,8 @@ namespace {
 constexpr std::int32_t lTamanhoPaginaPadrao = 100;
 constexpr Colour corSelecionado = 192;
 constexpr std::string_view sPrefixoChave = "00000";
+/// Wider than any window; a file that says more is damaged.
+constexpr float fMaiorLargura = 10'000'000;
 /// What goes wrong with a list is reported, and the screen stays.
 constexpr int iOpcaoContinuar = 2;
 
@@ -49,8 +51,11 @@ std::string sLargura(float largura) {
 float fLargura(const std::string& sTexto) {
   const std::string sNumero = replaceAll(trim(sTexto), ",", ".");
   float largura = 0;
-  const auto [fim, erro] = std::from_chars(sNumero.data(), sNumero.data() + sNumero.size(), largura);
-  if (erro != std::errc() || largura < 0) throw Error(errors::typeMismatch, "A largura \"" + sTexto + "\" é inválida.");
+  const char* const final = sNumero.data() + sNumero.size();
+  const auto [fim, erro] = std::from_chars(sNumero.data(), final, largura);
+  // The comparisons fail for what is no number, too.
+  if (erro != std::errc() || fim != final || !(largura >= 0 && largura <= fMaiorLargura))
+    throw Error(errors::typeMismatch, "A largura \"" + sTexto + "\" é inválida.");
   return largura;
 }
 

@@ -326,10 +326,13 @@ TEST_F(Paginas, AFileOfWidthsIsAppliedAsFarAsItGoes) {
 }
 
 TEST_F(Paginas, AWidthThatIsNoneIsReportedAndTheScreenStays) {
-  programa.pasta().gravar("list/a.XML", "<root><size>larga</size></root>");
-  host.expectBox(relatoDeFalha(), BoxAnswer::no);
-  tela.funcoes.vGetTamanhoColunasList(tela.lstLista, "a");
-  EXPECT_EQ(tela.lstLista.columnWidth(1), 1440);
+  for (const std::string sLargura : {"larga", "12abc", "-5", "nan", "inf", "1e30"}) {
+    programa.pasta().gravar("list/a.XML", "<root><size>" + sLargura + "</size></root>");
+    host.expectBox(relatoDeFalha(), BoxAnswer::no);
+    tela.funcoes.vGetTamanhoColunasList(tela.lstLista, "a");
+    EXPECT_EQ(tela.lstLista.columnWidth(1), 1440) << sLargura;
+    host.verify();
+  }
 }
 
 TEST_F(Paginas, TheFilterShutsTheCommandsThatStore) {
