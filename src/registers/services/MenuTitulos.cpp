@@ -1,13 +1,18 @@
 #include "registers/services/MenuTitulos.h"
 
+#include "platform/base/Error.h"
 #include "platform/ui/Screen.h"
 #include "shell/services/Contexto.h"
 #include "shell/services/Funcoes.h"
 #include "shell/services/TelaComLista.h"
 #include "shell/services/Telas.h"
+#include "shell/services/TratadorExcessoes.h"
 
 namespace fenvale {
 namespace {
+
+/// The row stays loaded after a failure, so the report lets the program go on.
+constexpr int iContinuar = 2;
 
 struct Entrada {
   const char* sNome;
@@ -31,9 +36,17 @@ MenuTitulos::MenuTitulos(Screen& tela, Contexto& contexto, Descricao descricao, 
       lChave_(std::move(lChave)),
       aoVoltar_(std::move(aoVoltar)) {
   std::vector<MenuItem> itens;
-  for (const Entrada& entrada : entradas)
-    itens.push_back(
-        {entrada.sNome, entrada.sLegenda, {}, [this, &entrada] { vMostrarTitulos(entrada.sCondicao); }, {}});
+  for (const Entrada& entrada : entradas) {
+    const auto vMostrar = [this, &entrada] {
+      try {
+        vMostrarTitulos(entrada.sCondicao);
+      } catch (const Error& falha) {
+        contexto_.tratadorExcessoes().vExibirGravarLogErro(falha, mnuPopUp.screen().sGetName(),
+                                                           std::string(entrada.sNome) + "_Click", iContinuar);
+      }
+    };
+    itens.push_back({entrada.sNome, entrada.sLegenda, {}, vMostrar, {}});
+  }
   mnuPopUp.setItems(std::move(itens));
 }
 

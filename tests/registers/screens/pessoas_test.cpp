@@ -282,6 +282,20 @@ TEST_P(Pessoa, ARightClickLoadsTheRowAndThenOffersItsTitles) {
   EXPECT_THAT(pedidas, ElementsAre(sDe, sDe + "AND (fValorPago > 0) ", sDe + "AND (fValorPago <= 0) "));
 }
 
+TEST_P(Pessoa, TitlesThatCannotBeListedAreReportedAndTheRowStays) {
+  programa.telas().registrar(caso.sTelaTitulos, [](Contexto&) -> std::unique_ptr<Screen> {
+    throw Error(errors::typeMismatch, "Tipo incompatível.");
+  });
+  pessoa(7, "Zulmira Antunes");
+  TelaCadastro& tela = abrirTela();
+  host.expectPopup("mnuPopUp", "mnuMostrarPagos");
+  host.expectBox(relatoDeFalha(), BoxAnswer::no);
+  tela.lstLista.userClickRow(0, MouseButton::right);
+  EXPECT_THAT(relato(),
+              testing::HasSubstr(std::string("Formulário: ") + caso.sTela + "\r\nFunção: mnuMostrarPagos_Click\r\n"));
+  EXPECT_EQ(formulario(tela).txtNome.text(), "Zulmira Antunes");
+}
+
 TEST_P(Pessoa, ALeftClickOpensNoMenu) {
   fingirTitulos(caso.sTelaTitulos);
   pessoa(7, "Zulmira Antunes");
