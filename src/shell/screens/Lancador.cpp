@@ -67,7 +67,7 @@ void Lancador::vExigirPrimeiroUsuario() {
 }
 
 void Lancador::vMostrarQuadroAoIniciar() {
-  if (!contexto_.telas().bExiste(sQuadroGeral) || !contexto_.dbEmpresa().Dados().isOpen()) return;
+  if (!contexto_.dbEmpresa().Dados().isOpen()) return;
   const auto quadro = [this]() -> TelaQuadroGeral& { return contexto_.telas().obter<TelaQuadroGeral>(sQuadroGeral); };
   if (!quadro().bGetMostrarTodas()) return;
   quadro().vSetMotrarTodas(false);

@@ -167,7 +167,10 @@ std::string sMenu(const std::vector<MenuItem>& itens, const std::string& sRecuo 
 
 TEST_F(Janela, TheWholeMenuInItsOrder) { EXPECT_EQ(sMenuInteiro, sMenu(janela().mnuPrincipal.items())); }
 
-TEST_F(Janela, LoadsWithTheNameOfTheProgram) { EXPECT_EQ("Gestor Fenvale - Versão ZENIT", janela().caption()); }
+TEST_F(Janela, LoadsWithTheNameOfTheProgramAndWithoutAPictureWhereThereIsNone) {
+  EXPECT_EQ("Gestor Fenvale - Versão ZENIT", janela().caption());
+  EXPECT_EQ("", janela().background());
+}
 
 TEST_F(Janela, WithoutACompanyEveryGuardedEntrySaysSoAndOpensNothing) {
   int guardadas = 0;
