@@ -4,8 +4,6 @@
 #include <gmock/gmock.h>
 #include <gtest/gtest.h>
 
-#include <set>
-
 #include "access/services/Permissoes.h"
 #include "gui/cadastros/CadastrosEmJanelas.h"
 #include "platform/base/Error.h"
@@ -43,18 +41,20 @@ class MenuEmJanelas : public CadastrosEmJanelas {
     if (achada == nullptr) throw std::logic_error("no action " + std::string(sNome));
     return *achada;
   }
-  /// What comes up when the action is triggered: the name of the screen, or the text of the box. Esc sends it away.
-  std::string aberta(std::string_view sAcao) {
-    std::string sOQue;
-    whenOpened(host, [&] {
+  /// What comes up when the action is triggered, each sent away by Esc: the names of screens, the texts of boxes.
+  std::vector<std::string> abertas(std::string_view sAcao) {
+    std::vector<std::string> surgidas;
+    QTimer alguem;
+    QObject::connect(&alguem, &QTimer::timeout, [&] {
+      if (host.topWindow() == windowOf(janela())) return;
       const MessageBox* caixa = host.openBox();
-      sOQue = caixa != nullptr ? caixa->text : host.activeScreen()->sGetName();
+      surgidas.push_back(caixa != nullptr ? caixa->text : host.activeScreen()->sGetName());
       press(host, Qt::Key_Escape);
     });
+    alguem.start(0);
     acao(sAcao).trigger();
     host.throwKept();
-    EXPECT_EQ(host.activeScreen(), &janela()) << sAcao << " left something open";
-    return sOQue;
+    return surgidas;
   }
 };
 
@@ -72,7 +72,7 @@ TEST_F(MenuEmJanelas, EveryEntryThatIsOnOpensItsScreenAndOnlyPrintingIsOff) {
       EXPECT_TRUE(bImprime(entrada.sTela)) << entrada.sNome << " is off for want of " << entrada.sTela;
       continue;
     }
-    EXPECT_EQ(aberta(entrada.sNome), entrada.sTela) << entrada.sNome;
+    EXPECT_THAT(abertas(entrada.sNome), ElementsAre(entrada.sTela)) << entrada.sNome;
   }
 }
 
@@ -81,7 +81,7 @@ TEST_F(MenuEmJanelas, TheButtonsOfTheToolbarAreAllOn) {
   for (const char* sBotao : {"CadastroClientes", "CadastroFornecedores", "CadastroPortadores", "TitulosReceber",
                              "TitulosPagar", "QuadroGeral"}) {
     EXPECT_TRUE(acao(sBotao).isEnabled()) << sBotao;
-    telas.push_back(aberta(sBotao));
+    for (std::string& sTela : abertas(sBotao)) telas.push_back(std::move(sTela));
   }
   EXPECT_THAT(telas, ElementsAre("frmCadastroClientes", "frmCadastroFornecedores", "frmCadastroPortadores",
                                  "frmCadastroTitulosReceber", "frmCadastroTitulosPagar", "frmMostrarContas"));
@@ -94,7 +94,7 @@ TEST_F(MenuEmJanelas, WithoutACompanyTheGuardedEntriesSaySoAndTheOthersOpen) {
     if (entrada.sTela.empty() || entrada.sTela == "frmLogin" || !acao(entrada.sNome).isEnabled()) continue;
     const std::string sEsperado =
         entrada.guarda == Guarda::nenhuma ? std::string(entrada.sTela) : std::string("Selecione uma empresa.");
-    EXPECT_EQ(aberta(entrada.sNome), sEsperado) << entrada.sNome;
+    EXPECT_THAT(abertas(entrada.sNome), ElementsAre(sEsperado)) << entrada.sNome;
   }
 }
 

@@ -170,12 +170,16 @@ TEST_P(TitulosEmJanelas, ADoubleClickInTheSearchBringsTheTitleAndTwoSlowClicksDo
       auto& lista = dynamic_cast<ListView&>(*busca.control("lstLista"));
       clickRow(lista, 2);
       EXPECT_EQ(busca.state(), Screen::State::loaded);
-      if (!bDuplo) return clickRow(lista, 2);
-      const auto& view = dynamic_cast<QTreeView&>(*widgetOf(lista));
-      const QPoint lugar = view.visualRect(view.currentIndex()).center();
-      QMouseEvent segundo(QEvent::MouseButtonDblClick, lugar, view.viewport()->mapToGlobal(QPointF(lugar)),
-                          Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
-      QCoreApplication::sendEvent(view.viewport(), &segundo);
+      if (bDuplo) {
+        const auto& view = dynamic_cast<QTreeView&>(*widgetOf(lista));
+        const QPoint lugar = view.visualRect(view.currentIndex()).center();
+        QMouseEvent segundo(QEvent::MouseButtonDblClick, lugar, view.viewport()->mapToGlobal(QPointF(lugar)),
+                            Qt::LeftButton, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(view.viewport(), &segundo);
+      } else {
+        clickRow(lista, 2);
+      }
+      EXPECT_FALSE(busca.unload()) << "it is gone already";
     });
     tecla(Qt::Key_F7);
     EXPECT_EQ(titulos.txtCodigoInf.text(), "000001/003");
