@@ -28,31 +28,32 @@ constexpr const char* sSelecaoReceber =
     "Portadores.lCodigo) INNER JOIN CentroCusto ON FaturasCliente.lCentroCusto = CentroCusto.lCodigo) INNER JOIN "
     "Vendedores ON FaturasCliente.lVendedor = Vendedores.lCodigo ";
 
+// The value of each account is seen without scrolling on a monitor of 1024 points.
 std::vector<ColunaLista> colunasPagar() {
-  return {{"Código", 1500, Align::left, "sCodigoInf"},
-          {"Filial", 1000, Align::left, "sFilial"},
-          {"Emissão", 1400, Align::centre, "Emissao"},
-          {"Vencimento", 1400, Align::centre, "Vencimento"},
-          {"Fornecedor", 3600, Align::left, "Fornecedor"},
-          {"Portador", 1800, Align::left, "Portador"},
-          {"Centro de custo", 1800, Align::left, "CentroCusto"},
-          {"Valor da fatura", 1600, Align::right, "ValorFatura"},
-          {"Valor do título", 1600, Align::right, "ValorTitulo"},
+  return {{"Código", 1350, Align::left, "sCodigoInf"},
+          {"Filial", 800, Align::left, "sFilial"},
+          {"Emissão", 1200, Align::centre, "Emissao"},
+          {"Vencimento", 1200, Align::centre, "Vencimento"},
+          {"Fornecedor", 3000, Align::left, "Fornecedor"},
+          {"Portador", 1200, Align::left, "Portador"},
+          {"Centro de custo", 1640, Align::left, "CentroCusto"},
+          {"Valor da fatura", 1640, Align::right, "ValorFatura"},
+          {"Valor do título", 1640, Align::right, "ValorTitulo"},
           {"Nota fiscal", 1300, Align::right, "lNF"},
           {"Observação", 3600, Align::left, "sObs"},
           {"Nº da fatura", 1400, Align::right, "lNumeroFatura"}};
 }
 
 std::vector<ColunaLista> colunasReceber() {
-  return {{"Código", 1500, Align::left, "sCodigoInf"},
-          {"Emissão", 1400, Align::centre, "Emissao"},
-          {"Vencimento", 1400, Align::centre, "Vencimento"},
-          {"Cliente", 3600, Align::left, "Cliente"},
-          {"Portador", 1800, Align::left, "Portador"},
-          {"Centro de custo", 1800, Align::left, "CentroCusto"},
-          {"Vendedor", 2200, Align::left, "Vendedor"},
-          {"Valor da fatura", 1600, Align::right, "ValorFatura"},
-          {"Valor do título", 1600, Align::right, "ValorTitulo"},
+  return {{"Código", 1350, Align::left, "sCodigoInf"},
+          {"Emissão", 1200, Align::centre, "Emissao"},
+          {"Vencimento", 1200, Align::centre, "Vencimento"},
+          {"Cliente", 2400, Align::left, "Cliente"},
+          {"Portador", 1200, Align::left, "Portador"},
+          {"Centro de custo", 1640, Align::left, "CentroCusto"},
+          {"Vendedor", 1400, Align::left, "Vendedor"},
+          {"Valor da fatura", 1640, Align::right, "ValorFatura"},
+          {"Valor do título", 1640, Align::right, "ValorTitulo"},
           {"Nota fiscal", 1300, Align::right, "lNF"},
           {"Observação", 3600, Align::left, "sObs"},
           {"Nº da fatura", 1400, Align::right, "lNumeroFatura"}};
