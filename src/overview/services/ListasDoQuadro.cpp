@@ -30,30 +30,30 @@ constexpr const char* sSelecaoReceber =
 
 // The value of each account is seen without scrolling on a monitor of 1024 points.
 std::vector<ColunaLista> colunasPagar() {
-  return {{"Código", 1350, Align::left, "sCodigoInf"},
-          {"Filial", 800, Align::left, "sFilial"},
-          {"Emissão", 1200, Align::centre, "Emissao"},
-          {"Vencimento", 1200, Align::centre, "Vencimento"},
+  return {{"Código", 1300, Align::left, "sCodigoInf"},
+          {"Filial", 700, Align::left, "sFilial"},
+          {"Emissão", 1300, Align::centre, "Emissao"},
+          {"Vencimento", 1300, Align::centre, "Vencimento"},
           {"Fornecedor", 3000, Align::left, "Fornecedor"},
           {"Portador", 1200, Align::left, "Portador"},
-          {"Centro de custo", 1640, Align::left, "CentroCusto"},
-          {"Valor da fatura", 1640, Align::right, "ValorFatura"},
-          {"Valor do título", 1640, Align::right, "ValorTitulo"},
+          {"Centro de custo", 1560, Align::left, "CentroCusto"},
+          {"Valor da fatura", 1560, Align::right, "ValorFatura"},
+          {"Valor do título", 1560, Align::right, "ValorTitulo"},
           {"Nota fiscal", 1300, Align::right, "lNF"},
           {"Observação", 3600, Align::left, "sObs"},
           {"Nº da fatura", 1400, Align::right, "lNumeroFatura"}};
 }
 
 std::vector<ColunaLista> colunasReceber() {
-  return {{"Código", 1350, Align::left, "sCodigoInf"},
-          {"Emissão", 1200, Align::centre, "Emissao"},
-          {"Vencimento", 1200, Align::centre, "Vencimento"},
-          {"Cliente", 2400, Align::left, "Cliente"},
+  return {{"Código", 1300, Align::left, "sCodigoInf"},
+          {"Emissão", 1300, Align::centre, "Emissao"},
+          {"Vencimento", 1300, Align::centre, "Vencimento"},
+          {"Cliente", 2500, Align::left, "Cliente"},
           {"Portador", 1200, Align::left, "Portador"},
-          {"Centro de custo", 1640, Align::left, "CentroCusto"},
-          {"Vendedor", 1400, Align::left, "Vendedor"},
-          {"Valor da fatura", 1640, Align::right, "ValorFatura"},
-          {"Valor do título", 1640, Align::right, "ValorTitulo"},
+          {"Centro de custo", 1560, Align::left, "CentroCusto"},
+          {"Vendedor", 1300, Align::left, "Vendedor"},
+          {"Valor da fatura", 1560, Align::right, "ValorFatura"},
+          {"Valor do título", 1560, Align::right, "ValorTitulo"},
           {"Nota fiscal", 1300, Align::right, "lNF"},
           {"Observação", 3600, Align::left, "sObs"},
           {"Nº da fatura", 1400, Align::right, "lNumeroFatura"}};

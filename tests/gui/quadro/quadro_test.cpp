@@ -105,6 +105,20 @@ TEST_F(QuadroEmJanela, NothingIsCutHiddenOrOutOfReach) {
   tela.unload();
 }
 
+TEST_F(QuadroEmJanela, TheValueOfAnAccountIsInSightWithoutScrolling) {
+  frmMostrarContas& tela = abrirTodas();
+  for (frmMostrarContas::Quadro& quadro : tela.quadros) {
+    quadro.lst.setFocus();
+    host.doEvents();
+    const auto& view = dynamic_cast<const QTreeView&>(*widgetOf(quadro.lst));
+    int iValor = 0;
+    while (quadro.lst.columns().at(static_cast<std::size_t>(iValor)).heading != "Valor do título") ++iValor;
+    EXPECT_LE(view.columnViewportPosition(iValor) + view.columnWidth(iValor), view.viewport()->width())
+        << quadro.lst.name();
+  }
+  tela.unload();
+}
+
 /// Where the ink of a row's first cell ends.
 int fimDaTinta(const QTreeView& view, int linha) {
   const QImage foto = view.viewport()->grab().toImage();
