@@ -62,6 +62,7 @@ std::string sNumero(double valor) {
 }
 
 void Relatorio::vLinha(const std::string& sNome, double valor, const std::string& sUnidade, double barra) {
+  if (valor > barra) ++iPerdidas_;
   vEscrever(sNome, valor, sUnidade, sNumero(barra));
 }
 
@@ -97,10 +98,12 @@ int executar(int quantos, char** argumentos, const std::function<void(const Opco
     }
     opcoes.bRapido = true;
   }
-  return semFalha(argumentos[0], [&] {
-    Relatorio relatorio;
-    medir(opcoes, relatorio);
-  });
+  Relatorio relatorio;
+  const int fim = semFalha(argumentos[0], [&] { medir(opcoes, relatorio); });
+  // Small stores are over before a ratio means anything.
+  if (fim != 0 || opcoes.bRapido || relatorio.iPerdidas() == 0) return fim;
+  std::cerr << argumentos[0] << ": acima da barra: " << relatorio.iPerdidas() << "\n";
+  return 3;
 }
 
 }  // namespace fenvale::bancada

@@ -38,9 +38,13 @@ class Relatorio {
   void vLinha(const std::string& sNome, double valor, const std::string& sUnidade);
   /// The ratio with its bar, and below it the two times that it comes from.
   void vLinhas(const std::string& sNome, const Comparacao& comparacao, double barra);
+  /// How many figures were above their bar.
+  int iPerdidas() const { return iPerdidas_; }
 
  private:
   void vEscrever(const std::string& sNome, double valor, const std::string& sUnidade, const std::string& sBarra);
+
+  int iPerdidas_ = 0;
 };
 
 /// A real with three significant digits at least and no idle zeros, always with a point.
@@ -51,7 +55,8 @@ struct Opcoes {
   bool bRapido = false;
 };
 /// What main() of a measuring program does: reads the options and measures. Answers what the process ends with: 2 for
-/// an unknown option and 1 for an Error, both with a line on standard error.
+/// an unknown option, 1 for an Error and 3 when a figure of the large stores was above its bar, each with a line on
+/// standard error.
 int executar(int quantos, char** argumentos, const std::function<void(const Opcoes&, Relatorio&)>& medir);
 /// The same for a task that takes no options.
 int semFalha(const char* programa, const std::function<void()>& tarefa);

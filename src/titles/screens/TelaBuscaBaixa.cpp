@@ -39,7 +39,7 @@ TelaBuscaBaixa::TelaBuscaBaixa(Contexto& contexto, const DescricaoBuscaBaixa& de
   std::vector<LayoutNode> filial;
   if (txtFilial) filial.push_back(campo("Fili&al", *txtFilial, 3));
   vMontarTela(linhas(std::move(filial)), {&cmdLocalizar, &cmdEmitir});
-  setPreferredSize(26, 40);
+  setPreferredSize(24, 40);
 }
 
 void TelaBuscaBaixa::onLoad() {

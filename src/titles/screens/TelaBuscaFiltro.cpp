@@ -9,7 +9,7 @@ TelaBuscaFiltro<Formulario>::TelaBuscaFiltro(Contexto& contexto, const Lado& lad
     : TelaBuscaCompleta(contexto, tela.sBusca, tela.sLegendaBusca), Formulario(*this, contexto, lado) {
   vSetCriterios(Formulario::criterios());
   vMontarTela(Formulario::linhas());
-  setPreferredSize(26, 0);
+  setPreferredSize(24, 0);
 }
 
 template <typename Formulario>

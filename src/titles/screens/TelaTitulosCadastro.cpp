@@ -89,7 +89,7 @@ void TelaTitulosCadastro::vMontarFormulario() {
   vMontarTela({quadro("Fatura", {linha(std::move(primeira)), linha(std::move(segunda))}),
                quadro("Título", {linha(std::move(titulo)), linha(std::move(pagamento))})},
               {&cmdLocalizarBaixa}, {solto(chkManterFatura)});
-  setPreferredSize(26, 40);
+  setPreferredSize(24, 40);
 }
 
 void TelaTitulosCadastro::onLoad() {
