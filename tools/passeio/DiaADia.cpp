@@ -162,11 +162,11 @@ constexpr std::string_view listagemDoDia =
     R"(+--------------------------------------------------------------------------------------------------------------------------------+
 |                                                   Contas a pagar de 20/06/2026                                                 |
 +--------------------------------------------------------------------------------------------------------------------------------+
-|Código        |Filial   |Emissão      |Vencimento   |Fornecedor                       |Portador         |Centro de custo        |
-|Valor da fatura|Valor do título|Nota fiscal |Observação                       |Nº da fatura                                     |
+|Código      |Filial |Emissão     |Vencimento  |Fornecedor                  |Portador   |Centro de custo|Valor da fatura         |
+|Valor do título|Nota fiscal |Observação                       |Nº da fatura                                                     |
 +--------------------------------------------------------------------------------------------------------------------------------+
-|000001/003    |         |21/04/2026   |20/06/2026   |Distribuidora Três Irmãos Ltda.  |Carteira         |                       |
-|900,00         |270,00         |0           |                                 |1                                                |
+|000001/003  |       |21/04/2026  |20/06/2026  |Distribuidora Três Irmãos Lt|Carteira   |               |900,00                  |
+|270,00         |0           |                                 |1                                                                |
 +--------------------------------------------------------------------------------------------------------------------------------+
 )";
 
