@@ -19,7 +19,7 @@ using testing::ElementsAre;
 class MenuEmJanelas : public CadastrosEmJanelas {
  protected:
   MenuEmJanelas() {
-    Recordset(
+    const Recordset inclusao(
         "INSERT INTO Usuarios (sNomeUsuario, sLogin, sSenha, bPoderSalvar, bPoderExcluir, bPoderPesquisar, "
         "bPoderImprimir, bPoderAtualizar) VALUES ('Maria', 'MARIA', '123', -1, -1, -1, -1, -1)",
         programa.dbConectar().Dados());

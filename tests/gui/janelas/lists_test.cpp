@@ -47,6 +47,12 @@ TEST_F(Listas, TheRowThatTheKeysStartFromIsMarkedAsSoonAsTheListHasTheFocus) {
   EXPECT_EQ(groundOf(1), tokens.cursor) << "the selected row stays marked when the focus has gone";
 }
 
+TEST_F(Listas, TheNodeThatTheKeysStartFromIsMarkedAsSoonAsTheTreeHasTheFocus) {
+  const auto& tree = widget<QTreeWidget>(tela.trwDireitos);
+  tela.trwDireitos.setFocus();
+  EXPECT_THAT(tree.selectedItems(), ElementsAre(tree.topLevelItem(0)));
+}
+
 TEST_F(Listas, SpaceIsAClickOnTheRow) {
   tela.lstLista.setFocus();
   key(Qt::Key_Down);

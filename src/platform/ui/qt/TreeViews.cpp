@@ -45,7 +45,9 @@ class TreeBinding final : public BindingOf<TreeView, QTreeWidget> {
     refreshAll();
   }
   void focusGiven() override {
-    if (view().currentItem() == nullptr) view().setCurrentItem(view().topLevelItem(0));
+    // The toolkit gives a tree that gets the focus a current node, on which keys act, but none that shows.
+    if (!view().selectedItems().isEmpty()) return;
+    view().setCurrentItem(view().currentItem() != nullptr ? view().currentItem() : view().topLevelItem(0));
   }
 
  protected:
