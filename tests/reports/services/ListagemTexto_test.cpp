@@ -241,7 +241,7 @@ std::string sPalavra(std::mt19937& sorte, std::size_t maximo) {
 }
 
 /// What is left of a listing without its grid.
-std::string semGrade(std::string sTexto) { return without(sTexto, "|+- \r\n\x0F\x12"); }
+std::string semGrade(const std::string& sTexto) { return without(sTexto, "|+- \r\n\x0F\x12"); }
 
 TEST(Listagem, OfAnyListIsAGridThatLosesNothing) {
   std::mt19937 sorte(11);
