@@ -37,12 +37,15 @@ TEST(SystemProcess, EndsAtOnceWithTheExitCode) {
   EXPECT_EXIT(SystemProcess().end(exitRestart), testing::ExitedWithCode(75), "");
 }
 
+std::string searchPath() {
+  const char* const path = std::getenv("PATH");
+  return path == nullptr ? std::string() : path;
+}
+
 /// The programs that are found by name, as long as it lives.
 class ProgramFolder {
  public:
-  explicit ProgramFolder(const std::string& folder) : before_(std::getenv("PATH")) {
-    ::setenv("PATH", folder.c_str(), 1);
-  }
+  explicit ProgramFolder(const std::string& folder) : before_(searchPath()) { ::setenv("PATH", folder.c_str(), 1); }
   ~ProgramFolder() { ::setenv("PATH", before_.c_str(), 1); }
   ProgramFolder(const ProgramFolder&) = delete;
   ProgramFolder& operator=(const ProgramFolder&) = delete;

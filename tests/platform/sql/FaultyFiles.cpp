@@ -11,8 +11,9 @@ namespace fenvale::test {
 namespace {
 
 struct Layer {
-  sqlite3_vfs* disk = nullptr;
+  sqlite3_vfs& disk = *sqlite3_vfs_find(nullptr);  ///< found before this layer is the default itself
   sqlite3_vfs own{};
+  bool registered = false;
   Fault fault = Fault::none;
   int number = 0;
   int count = 0;
@@ -87,28 +88,27 @@ const sqlite3_io_methods methods = {1,           closeFile,  readFile,        wr
 
 int openFile(sqlite3_vfs*, const char* name, sqlite3_file* file, int flags, int* outFlags) {
   file->pMethods = nullptr;
-  const int code = layer().disk->xOpen(layer().disk, name, real(file), flags, outFlags);
+  const int code = layer().disk.xOpen(&layer().disk, name, real(file), flags, outFlags);
   if (code == SQLITE_OK) file->pMethods = &methods;
   return code;
 }
 
 int deleteFile(sqlite3_vfs*, const char* name, int synchronize) {
   if (strikes()) return layer().fault == Fault::tear ? (die(), SQLITE_OK) : SQLITE_IOERR_DELETE;
-  return layer().disk->xDelete(layer().disk, name, synchronize);
+  return layer().disk.xDelete(&layer().disk, name, synchronize);
 }
 
 }  // namespace
 
 void arm(Fault fault, int number) {
   Layer& one = layer();
-  if (one.disk == nullptr) {
-    one.disk = sqlite3_vfs_find(nullptr);
-    one.own = *one.disk;
+  if (!one.registered) {
+    one.own = one.disk;
     one.own.zName = "faulty";
-    one.own.szOsFile = static_cast<int>(sizeof(File)) + one.disk->szOsFile;
+    one.own.szOsFile = static_cast<int>(sizeof(File)) + one.disk.szOsFile;
     one.own.xOpen = openFile;
     one.own.xDelete = deleteFile;
-    sqlite3_vfs_register(&one.own, 1);
+    one.registered = sqlite3_vfs_register(&one.own, 1) == SQLITE_OK;
   }
   one.fault = fault;
   one.number = number;
