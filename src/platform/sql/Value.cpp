@@ -1,8 +1,8 @@
 #include "platform/sql/Value.h"
 
-#include <utility>
 #include <array>
 #include <charconv>
+#include <utility>
 
 #include "platform/base/Checked.h"
 #include "platform/base/Error.h"

@@ -29,13 +29,13 @@ class Value {
 
   // Readers for the rules. NULL raises Error 94 in all but toText; a value of another kind is converted as the rules
   // expect (text to number, number to text), Error 13 where it cannot be.
-  std::int32_t toLong() const;      ///< Error 6 out of the 32-bit range
-  std::int16_t toInteger() const;   ///< Error 6 out of the 16-bit range
-  std::uint8_t toByte() const;      ///< Error 6 out of 0 to 255
+  std::int32_t toLong() const;     ///< Error 6 out of the 32-bit range
+  std::int16_t toInteger() const;  ///< Error 6 out of the 16-bit range
+  std::uint8_t toByte() const;     ///< Error 6 out of 0 to 255
   Currency toCurrency() const;
   double toDouble() const;
   Date toDate() const;
-  bool toBoolean() const;           ///< any number but 0 is true
+  bool toBoolean() const;  ///< any number but 0 is true
   /// NULL is an empty text. Integers in decimal, currency by Currency::toDecimal, a date as dd/mm/yyyy, yes/no as
   /// "-1" or "0".
   std::string toText() const&;
